@@ -1,0 +1,43 @@
+#!/usr/bin/env python3
+"""Checks that no source file is over 600 lines and no function over 60."""
+
+import os
+import re
+import subprocess
+import sys
+
+ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+FILE_LIMIT = 600
+FUNCTION_LIMIT = 60
+
+
+def check(path, report):
+	with open(os.path.join(ROOT, path), encoding="utf-8") as file:
+		lines = file.read().split("\n")
+	if len(lines) - 1 > FILE_LIMIT:
+		report(f"{path}: {len(lines) - 1} lines")
+	begin = None
+	for number, line in enumerate(lines, 1):
+		if line == "{":
+			begin = number
+		elif line == "}" and begin is not None:
+			if number - begin - 1 > FUNCTION_LIMIT:
+				report(f"{path}:{begin}: a function of {number - begin - 1} lines")
+			begin = None
+		elif re.match(r"^\S", line) and not line.startswith(("#", "//", "}")):
+			begin = None
+
+
+def main():
+	found = []
+	listed = subprocess.run(
+		["git", "-C", ROOT, "ls-files", "--cached", "--others", "--exclude-standard", "*.cpp", "*.h"],
+		check=True, stdout=subprocess.PIPE, text=True)
+	for path in listed.stdout.split("\n"):
+		if path and os.path.exists(os.path.join(ROOT, path)):
+			check(path, found.append)
+	print("\n".join(found) if found else "sizes: no file and no function is too long")
+	return 1 if found else 0
+
+
+sys.exit(main())

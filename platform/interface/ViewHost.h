@@ -3,8 +3,11 @@
 #define VIEW_HOST_H
 
 #include <Point.h>
+#include <Rect.h>
 #include <SupportDefs.h>
 
+class BHandler;
+class BMessage;
 class BView;
 class BWindow;
 class QImage;
@@ -41,6 +44,23 @@ public:
 
 	// The host's (0,0) in screen coordinates.
 	virtual BPoint ScreenOrigin() const = 0;
+
+	// What views ask for beyond drawing. A bitmap has none of it.
+
+	// Brings the picture up to date first where an update is pending, then gives the pointer's
+	// place in the host and the buttons, from the oldest queued mouse message if wanted and there
+	// is one. False leaves both as they are.
+	virtual bool GetMouse(BPoint*, uint32*, bool /* checkMessageQueue */) { return false; }
+	// Sends the view the pointer and key messages of the mask until the buttons are released.
+	virtual void SetMouseEventMask(BView&, uint32 /* mask */, uint32 /* options */) {}
+	virtual void DragMessage(BView&, BMessage&, BRect, BHandler* /* replyTo */) {}
+	// A view was attached that wants to be pulsed.
+	virtual void PulseNeeded() {}
+	// The view, which may be in destruction, leaves the host: no pointer to it may stay behind.
+	// Its focus is already given up.
+	virtual void ViewDetached(BView&) {}
+	// The focus went to that view, or to none.
+	virtual void FocusChanged(BView*) {}
 };
 
 // Erases and draws every view that touches the region, as the platform's updates do: all

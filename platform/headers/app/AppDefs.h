@@ -1,0 +1,81 @@
+// Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#ifndef APP_DEFS_H
+#define APP_DEFS_H
+
+#include <SupportDefs.h>
+
+
+// The codes of the messages that the system itself sends.
+enum {
+	// Applications and loops
+	B_QUIT_REQUESTED = '_QRQ',
+	B_CLOSE_REQUESTED = '_QRQ',
+	B_ABOUT_REQUESTED = '_ABR',
+	B_READY_TO_RUN = '_RTR',
+	B_ARGV_RECEIVED = '_ARG',
+	B_REFS_RECEIVED = '_RRC',
+	B_APP_ACTIVATED = '_ACT',
+	B_WINDOW_ACTIVATED = '_ACT',
+	B_PULSE = '_PUL',
+	B_SILENT_RELAUNCH = 'AREL',
+	_QUIT_ = '_QIT',
+	B_CANCEL = '_CNC',
+
+	// Input
+	B_KEY_DOWN = '_KYD',
+	B_KEY_UP = '_KYU',
+	B_UNMAPPED_KEY_DOWN = '_UKD',
+	B_UNMAPPED_KEY_UP = '_UKU',
+	B_MODIFIERS_CHANGED = '_MCH',
+	B_MOUSE_DOWN = '_MDN',
+	B_MOUSE_UP = '_MUP',
+	B_MOUSE_MOVED = '_MMV',
+	B_MOUSE_WHEEL_CHANGED = '_MWC',
+	B_MOUSE_IDLE = '_MSI',
+	_MESSAGE_DROPPED_ = '_MDP',
+
+	// Windows and views
+	B_WINDOW_MOVED = '_WMV',
+	B_WINDOW_RESIZED = '_WRS',
+	B_VIEW_MOVED = '_VMV',
+	B_VIEW_RESIZED = '_VRS',
+	B_ZOOM = '_WZM',
+	B_MINIMIZE = '_WMN',
+	B_SCREEN_CHANGED = '_SCH',
+	B_WORKSPACE_ACTIVATED = '_WAC',
+	B_WORKSPACES_CHANGED = '_WCG',
+	B_COLORS_UPDATED = '_CLU',
+	B_FONTS_UPDATED = '_FNU',
+	_UPDATE_ = '_UPD',
+	B_INVALIDATE = '_IVL',
+	B_WINDOW_MOVE_TO = 'WDMT',
+	B_WINDOW_MOVE_BY = 'WDMB',
+
+	// Scripting
+	B_GET_PROPERTY = 'PGET',
+	B_SET_PROPERTY = 'PSET',
+	B_EXECUTE_PROPERTY = 'PEXE',
+	B_COUNT_PROPERTIES = 'PCNT',
+	B_CREATE_PROPERTY = 'PCRT',
+	B_DELETE_PROPERTY = 'PDEL',
+	B_GET_SUPPORTED_SUITES = 'SUIT',
+	B_REPLY = 'RPLY',
+	B_NO_REPLY = 'NONE',
+	B_MESSAGE_NOT_UNDERSTOOD = 'MNOT',
+
+	// Data
+	B_SIMPLE_DATA = 'DATA',
+	B_MIME_DATA = 'MIME',
+	B_CUT = 'CCUT',
+	B_COPY = 'COPY',
+	B_PASTE = 'PSTE',
+	B_SELECT_ALL = 'SALL',
+	B_SAVE_REQUESTED = 'SAVE',
+	B_NODE_MONITOR = 'NDMN',
+	B_QUERY_UPDATE = 'QUPD',
+	B_OBSERVER_NOTICE_CHANGE = 'NTCH',
+	B_CONTROL_INVOKED = 'CIVK',
+	B_CONTROL_MODIFIED = 'CMOD',
+};
+
+#endif // APP_DEFS_H

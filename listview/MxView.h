@@ -5,26 +5,30 @@
 #include <array>
 
 #include <GraphicsDefs.h>
+#include <OS.h>
 #include <Rect.h>
-#include <SupportDefs.h>
 #include <View.h>
 
 class BBitmap;
 class BList;
-class BMessage;
 class BPath;
 class BPopUpMenu;
 class KVLangMenu;
+class MEView;
 class Prefs;
 
 
-/*!	The one view of the media window: the column of tiles, the play buttons, the time bar and the
-	grid of covers.
+/*!	The view that fills the media window: the column of tiles, the grid of covers, six buttons and
+	the time bar. It times the playing title and asks the window for the next one.
 
-	It lives in the window's thread. The window owns the lists that the class-wide pointers name.
+	All of it runs in the window's thread. The tiles are its only child views, one for each entry of
+	the list shown, in the list's order.
 */
 class MxView : public BView {
 public:
+	// Microseconds of system time; tests set a clock of their own.
+	using Clock = bigtime_t (*)();
+
 	MxView(BRect frame, const char* name, uint32 resizingMode, uint32 flags);
 	~MxView() override;
 
@@ -35,40 +39,46 @@ public:
 	void Pulse() override;
 	void FrameResized(float width, float height) override;
 
+	// Measures every title that has no play time and writes the attribute "Audio:Length".
 	virtual void ListWriteAttribute();
+	// Makes all tiles anew; unless quiet, shows the progress and starts timing the playing title.
 	virtual void ChildsFromList(bool quiet);
 	virtual void AddWPopMenu();
 	virtual void KeyEvents(BMessage* message);
+	// Lays the tiles out around an entry; startPlay begins to time it, a step other than 0 moves
+	// the next-mark by that much from the entry.
 	virtual void CenterMediaFile(long index, bool startPlay, long step);
-	virtual void EraseView(BRect area);
+	virtual void EraseView(BRect rect);
 	virtual void DrawProgressCalc(bool redraw);
 	virtual void ShowToppedAlbum(long image);
 	virtual void CalcContinousPlaytime();
 	virtual void PlyBut(long button, BRect frame);
 
-	// Whether the list was taken from the window.
+	// The list to show has been fetched from the window.
 	static bool MedListChecked;
-	// Whether one album folder's contents are shown instead of the media file list.
+	// The contents of one album folder are shown instead of the media file list.
 	static bool SingleAlbum;
-	// BPath entries; the list that is shown and played.
+	// Of BPath, the list shown and played; and of BitmapPath, the albums with their covers. Both
+	// are the window's.
 	static BList* MedList;
-	// BitmapPath entries; the album folders with their covers.
 	static BList* ImgList;
-	static BPath* PlayListFile;
+	// The playlist file in use, the window's.
+	static const BPath* PlayListFile;
 
-	// The shared settings, not owned.
-	Prefs* settings = nullptr;
-	rgb_color listBackColor = {220, 220, 220, 0};
-	rgb_color progressColor = {240, 240, 240, 0};
-	rgb_color progressFillColor = {30, 20, 30, 0};
+	Prefs* settings;
+	rgb_color listBackColor;
+	rgb_color progressColor;
+	rgb_color progressFillColor;
+	// Owned; null as long as there is none.
 	BBitmap* backBitmap = nullptr;
 	BPopUpMenu* popMenu = nullptr;
-	// Lent to popMenu while that exists.
+	// Owned, lent to each context menu.
 	KVLangMenu* langMenu = nullptr;
-	float tileSize = 114;
-	float tileThird = 38;
-	float centerY = 0;
-	float tileLeft = 0;
+	// Pixels: a tile's height, and the side of a cell of the cover grid.
+	float tileSize;
+	float tileThird;
+	float centerY;
+	float tileLeft;
 	BRect upMarkRect;
 	BRect downMarkRect;
 	BRect imageGridRect = BRect(0, 0, 1, 1);
@@ -81,17 +91,62 @@ public:
 	int32 visibleCount = 5;
 	int32 lastIndex = 0;
 	int32 imageIndex = -1;
-	// System time at which the playing title ends; 0 when none is timed.
-	int64 playEnd = 0;
-	// In microseconds.
-	int64 playLength = 0;
+	// Microseconds: the system time at which the playing title ends (0: none is timed), its length.
+	bigtime_t playEnd = 0;
+	bigtime_t playLength = 0;
 	bool imagesFit = false;
 	bool listChanged = false;
 	bool sizeMenuShown = true;
 	bool pathTrouble = false;
-	// Set by the window, in microseconds. Nothing reads them.
-	int64 fFirstSpan = 0;
-	int64 fSecondSpan = 0;
+	// Two spans in microseconds that the window sets at start. Nothing reads them.
+	bigtime_t fFirstSpan = 0;
+	bigtime_t fSecondSpan = 0;
+	Clock clock = system_time;
+
+private:
+	MEView* _TileAt(int32 index) const;
+	void _RemoveTiles();
+	void _AddTiles(bool quiet);
+	void _PlaceMarks();
+	void _LoadBackground();
+
+	void _MeasureTitle(int32 index, const BPath& path);
+
+	void _DrawFrame(BRect bounds);
+	void _DrawCenterBar(BRect bounds);
+	void _DrawButtons(BRect bounds);
+	void _DrawButton(int32 button, BRect frame);
+	void _DrawHints(BRect bounds);
+	void _CheckGridFits(BRect bounds);
+	void _DrawCoverGrid(BRect bounds);
+	void _DrawCover(int32 index, BRect cell);
+	void _DrawMissingCover(BRect frame);
+	void _DrawTimeBar(BRect bounds, float ratio);
+	void _DrawGlyph(int32 button, BRect box);
+
+	void _StartTiming(int32 index, const MEView& tile);
+	void _PlaceTiles(int32 target, BPoint centered);
+	void _PlayTitle(int32 index);
+
+	void _SetBoxSize(uint32 command);
+	void _TakeColor(BMessage* message);
+	void _ChangeLanguage(BMessage* message);
+	void _SendToWindow(BMessage* message);
+	bool _ClickCover(BPoint where);
+	bool _ClickButton(BPoint where);
+	bool _ClickMenuArea(BPoint where);
+	int32 _PressedButtons() const;
+	void _DropMenu();
+
+	void _PressKey(int32 key);
+	void _BuildMenu(int32 unmeasuredCount);
+	void _AddSizeItems();
+	int32 _CountUnmeasured() const;
+
+private:
+	// The row of the centered tile at the last drawing, and the area of the button column.
+	float fDrawnCenterY = 0;
+	BRect fButtonStrip;
 };
 
 #endif // MX_VIEW_H

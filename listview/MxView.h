@@ -63,7 +63,7 @@ public:
 	static BList* MedList;
 	static BList* ImgList;
 	// The playlist file in use, the window's.
-	static const BPath* PlayListFile;
+	static BPath* PlayListFile;
 
 	Prefs* settings;
 	rgb_color listBackColor;

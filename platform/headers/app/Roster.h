@@ -86,7 +86,8 @@ public:
 		team_id* appTeam = nullptr) const;
 	status_t Launch(const entry_ref* ref, const BMessage* initialMessage = nullptr,
 		team_id* appTeam = nullptr) const;
-	status_t Launch(const entry_ref* ref, const BList* messageList, team_id* appTeam = nullptr) const;
+	status_t Launch(const entry_ref* ref, const BList* messageList,
+		team_id* appTeam = nullptr) const;
 	status_t Launch(const entry_ref* ref, int argc, const char* const* args,
 		team_id* appTeam = nullptr) const;
 };

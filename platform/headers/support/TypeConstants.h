@@ -1,0 +1,43 @@
+// Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#ifndef TYPE_CONSTANTS_H
+#define TYPE_CONSTANTS_H
+
+// Four characters, the first in the high byte.
+enum {
+	B_ANY_TYPE = 'ANYT',
+	B_BOOL_TYPE = 'BOOL',
+	B_CHAR_TYPE = 'CHAR',
+	B_DOUBLE_TYPE = 'DBLE',
+	B_FLOAT_TYPE = 'FLOT',
+	B_INT8_TYPE = 'BYTE',
+	B_INT16_TYPE = 'SHRT',
+	B_INT32_TYPE = 'LONG',
+	B_INT64_TYPE = 'LLNG',
+	B_LARGE_ICON_TYPE = 'ICON',
+	B_MESSAGE_TYPE = 'MSGG',
+	B_MESSENGER_TYPE = 'MSNG',
+	B_MIME_STRING_TYPE = 'MIMS',
+	B_MIME_TYPE = 'MIME',
+	B_MINI_ICON_TYPE = 'MICN',
+	B_NODE_REF_TYPE = 'NREF',
+	B_OFF_T_TYPE = 'OFFT',
+	B_POINT_TYPE = 'BPNT',
+	B_POINTER_TYPE = 'PNTR',
+	B_PROPERTY_INFO_TYPE = 'SCTD',
+	B_RAW_TYPE = 'RAWT',
+	B_RECT_TYPE = 'RECT',
+	B_REF_TYPE = 'RREF',
+	B_RGB_32_BIT_TYPE = 'RGBB',
+	B_RGB_COLOR_TYPE = 'RGBC',
+	B_SIZE_TYPE = 'SIZE',
+	B_STRING_TYPE = 'CSTR',
+	B_STRING_LIST_TYPE = 'STRL',
+	B_TIME_TYPE = 'TIME',
+	B_UINT8_TYPE = 'UBYT',
+	B_UINT16_TYPE = 'USHT',
+	B_UINT32_TYPE = 'ULNG',
+	B_UINT64_TYPE = 'ULLG',
+	B_VECTOR_ICON_TYPE = 'VICN',
+};
+
+#endif // TYPE_CONSTANTS_H

@@ -2,6 +2,8 @@
 #include <Menu.h>
 
 #include <algorithm>
+#include <stdio.h>
+#include <stdlib.h>
 #include <string.h>
 
 #include <MenuItem.h>
@@ -98,8 +100,11 @@ BMenu::AddItem(BMenuItem* item, int32 index)
 	Locker locker(MenuLock());
 	if (item == nullptr || index < 0 || index > CountItems())
 		return false;
-	if (item->fSuper != nullptr)
-		debugger("BMenu::AddItem: the item is in a menu already");
+	if (item->fSuper != nullptr) {
+		fprintf(stderr, "BMenu::AddItem: the item \"%s\" is in a menu already\n",
+			item->fLabel.String());
+		abort();
+	}
 	if (item->IsMarked())
 		_ItemMarked(item);
 	fItems.insert(fItems.begin() + index, item);

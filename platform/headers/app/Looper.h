@@ -81,7 +81,7 @@ public:
 	BList* CommonFilterList() const;
 
 protected:
-	/*!	For windows. All of them run in the looper's thread, with its lock held. */
+	// For windows. The hooks run in the looper's thread, with its lock held.
 
 	// The queue has run empty after messages, or has been busy for a while: the time to show what
 	// they changed.
@@ -89,10 +89,10 @@ protected:
 	// The handler that gets a message, before filters see it. target is null if the one that the
 	// message names is gone, preferred if the message did not name one. Null drops the message.
 	virtual BHandler* _TargetFor(BMessage* message, BHandler* target, bool preferred);
-	// The looper as a window, and whether the application lists it: menus and off-screen windows
-	// are not listed. Called from any thread that holds the application's list of loopers; must not
-	// lock.
-	virtual BWindow* _AsWindow(bool* listed) const;
+	// Makes the looper one of the application's windows, in BWindow's constructor, and no longer
+	// one with null, first thing in its destructor. The application counts and asks only listed
+	// windows, which menus and off-screen windows are not, but closes all of them.
+	void _SetWindow(BWindow* window, bool listed);
 
 	// Hands a message to the looper as if it had been taken from the queue: finds the target, runs
 	// the filters and dispatches. Takes the message over and deletes it. CurrentMessage() is back

@@ -22,7 +22,7 @@ class MessengerAccess;
 */
 class BMessenger {
 public:
-	BMessenger() {}
+	constexpr BMessenger() {}
 	BMessenger(const char* signature, team_id team = -1, status_t* result = NULL);
 	BMessenger(const BHandler* handler, const BLooper* looper = NULL, status_t* result = NULL);
 	BMessenger(const BMessenger& other) = default;

@@ -189,6 +189,10 @@ class Session:
 			return found[0] if found else None
 		return wait_for(find, f"the window {title!r}", limit)
 
+	def visible_windows(self):
+		"""How many windows, menus among them, are on the screen."""
+		return self.output(["xwininfo", "-root", "-children"]).count("0x")
+
 	def frame(self, window):
 		"""Left, top, width, height of a window's contents on the screen."""
 		text = self.output(["xwininfo", "-id", window])

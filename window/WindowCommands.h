@@ -4,11 +4,13 @@
 
 #include <SupportDefs.h>
 
+#include "appcontrol/PlayerMessages.h"
 #include "entryview/EntryMessages.h"
+#include "listview/MxViewCommands.h"
+#include "locale/LanguageMessages.h"
 
 
-// Commands of the media window: code, fields, sender. kMsgPlayTitle and kMsgListOperation stand in
-// EntryMessages.h.
+// Commands of the media window: code, fields, sender. Those that lower folders send stand there.
 enum : uint32 {
 	// No fields; context menu.
 	kMsgEditList = 'MW_E',
@@ -17,19 +19,8 @@ enum : uint32 {
 	kMsgShowTitleTab = 'MWsT',
 	kMsgToggleTitleTab = 'MWkT',
 	kMsgToggleAlwaysInFront = 'MWff',
-	// No fields; context menu, for the list view.
-	kMsgBoxSizeMaxi = 'MWmx',
-	kMsgBoxSizeNormal = 'MWmd',
-	kMsgBoxSizeMini = 'MWmi',
-	kMsgBoxSizeMicro = 'MWm4',
-	kMsgBoxSizePico = 'MWm5',
-	kMsgSetPlayTimes = 'MWPT',
 	// "korukey" int32, the number of a remote control's key; remote controls.
 	kMsgRemoteKey = 'MWse',
-	// "aa_mime" string, a player's path; the menu of players.
-	kMsgPreferredAudioApp = 'UPAA',
-	// "_MenuItem" int32, "_LangFilePath" string; the language menu, here and in other applications.
-	kMsgLanguageChanged = 'kvCL',
 
 	// No fields; the window and the list view tell the application that they are gone.
 	kMsgWindowGone = 'MW_Q',
@@ -46,15 +37,7 @@ static_assert(kMsgHideTitleTab == 0x4D576854, "codes are read high byte first");
 static_assert(kMsgShowTitleTab == 0x4D577354, "codes are read high byte first");
 static_assert(kMsgToggleTitleTab == 0x4D576B54, "codes are read high byte first");
 static_assert(kMsgToggleAlwaysInFront == 0x4D576666, "codes are read high byte first");
-static_assert(kMsgBoxSizeMaxi == 0x4D576D78, "codes are read high byte first");
-static_assert(kMsgBoxSizeNormal == 0x4D576D64, "codes are read high byte first");
-static_assert(kMsgBoxSizeMini == 0x4D576D69, "codes are read high byte first");
-static_assert(kMsgBoxSizeMicro == 0x4D576D34, "codes are read high byte first");
-static_assert(kMsgBoxSizePico == 0x4D576D35, "codes are read high byte first");
-static_assert(kMsgSetPlayTimes == 0x4D575054, "codes are read high byte first");
 static_assert(kMsgRemoteKey == 0x4D577365, "codes are read high byte first");
-static_assert(kMsgPreferredAudioApp == 0x55504141, "codes are read high byte first");
-static_assert(kMsgLanguageChanged == 0x6B76434C, "codes are read high byte first");
 static_assert(kMsgWindowGone == 0x4D575F51, "codes are read high byte first");
 static_assert(kMsgRemoteGone == 0x69726D69, "codes are read high byte first");
 static_assert(kMsgRosterReactivated == 0x4252415A, "codes are read high byte first");

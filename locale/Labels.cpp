@@ -4,8 +4,8 @@
 #include "locale/KVLabel.h"
 
 
-// The built-in texts, spelled as translators of the language files know them. A text that is its own
-// number keeps the numbering stable between the products that share this table.
+// The built-in texts, spelled as translators of the language files know them. A text that is its
+// own number keeps the numbering stable between the products that share this table.
 const char* eLabel[kLabelCount + 1] = {
 	"Koru", // 0
 	" Name: ", // 1
@@ -107,7 +107,7 @@ const char* eLabel[kLabelCount + 1] = {
 	"Rec.", // 97
 	"Kx98", // 98
 	"Kx99", // 99
-	"-???-", // 100
+	"-\?\?\?-", // 100
 	"101", // 101
 	"102", // 102
 	"103", // 103

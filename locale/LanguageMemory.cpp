@@ -22,7 +22,8 @@ static void
 open_memory(BFile* file)
 {
 	BPath path;
-	if (find_directory(B_USER_SETTINGS_DIRECTORY, &path) != B_OK || path.Append(kFolderName) != B_OK)
+	if (find_directory(B_USER_SETTINGS_DIRECTORY, &path) != B_OK
+		|| path.Append(kFolderName) != B_OK)
 		return;
 	create_directory(path.Path(), 0755);
 	path.Append(kFileName);

@@ -5,8 +5,8 @@
 #include <SupportDefs.h>
 
 
-// Another language was chosen: "_MenuItem" int32, "_LangFilePath" string. The language menu sends it
-// to its own list view and to every running application.
+// Another language was chosen: "_MenuItem" int32, "_LangFilePath" string. The language menu sends
+// it to its own list view and to every running application.
 inline constexpr uint32 kMsgLanguageChanged = 'kvCL';
 
 static_assert(kMsgLanguageChanged == 0x6B76434C, "codes are read high byte first");

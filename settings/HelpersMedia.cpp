@@ -29,7 +29,9 @@ translate(BTranslatorRoster* roster, const char* path)
 	BBitmap* bitmap = nullptr;
 	if (roster->Translate(&file, nullptr, nullptr, &stream, B_TRANSLATOR_BITMAP) != B_OK
 		|| stream.DetachBitmap(&bitmap) != B_OK) {
-		printf("\xA0" "can't translate '%s'\n", path);
+		printf("\xA0"
+			   "can't translate '%s'\n",
+			path);
 		return nullptr;
 	}
 	return bitmap;

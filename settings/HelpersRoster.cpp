@@ -166,8 +166,8 @@ AnyAlert(const char* text, bool toConsole)
 		return;
 	}
 
-	BAlert* const alert = new BAlert(
-		"KORU_Alert", text, "OK", nullptr, nullptr, B_WIDTH_AS_USUAL, B_WARNING_ALERT);
+	BAlert* const alert
+		= new BAlert("KORU_Alert", text, "OK", nullptr, nullptr, B_WIDTH_AS_USUAL, B_WARNING_ALERT);
 	alert->SetShortcut(0, B_ENTER);
 	alert->Go(nullptr);
 }

@@ -50,7 +50,7 @@ HasMsgColor(BMessage* message, rgb_color deflt)
 }
 
 
-template<class View>
+template <class View>
 static void
 color_view(BView* child, rgb_color color)
 {

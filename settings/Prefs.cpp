@@ -123,9 +123,8 @@ Prefs::_LoadNumbers()
 bool
 Prefs::Save()
 {
-	if (!_SaveFlags(0, kFirstFlags) || !_SaveTexts(kFirstTexts, kTextPrefs.size())
-		|| !_SaveFrames() || !_SaveTexts(0, kFirstTexts)
-		|| !_SaveFlags(kFirstFlags, kFlagPrefs.size()))
+	if (!_SaveFlags(0, kFirstFlags) || !_SaveTexts(kFirstTexts, kTextPrefs.size()) || !_SaveFrames()
+		|| !_SaveTexts(0, kFirstTexts) || !_SaveFlags(kFirstFlags, kFlagPrefs.size()))
 		return false;
 
 	// Saving goes on if just this position cannot be written.

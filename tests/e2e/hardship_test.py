@@ -1,0 +1,61 @@
+"""The program where something is missing: the display, the session bus, the home folder."""
+
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+from program import Program  # noqa: E402
+from session import Session, as_ordinary_user, make_title  # noqa: E402
+
+
+class Hardship(unittest.TestCase):
+	def test_without_a_display_it_says_so_and_ends(self):
+		with tempfile.TemporaryDirectory() as home:
+			environment = {"HOME": home, "PATH": os.environ["PATH"]}
+			done = subprocess.run([os.environ["VINYLOH"]], env=environment, timeout=30,
+				stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+			self.assertIn("display", done.stdout)
+			self.assertGreaterEqual(done.returncode, 0, "ended by a signal")
+			self.assertEqual(os.listdir(home), [], "nothing is written")
+
+	def test_with_a_display_that_does_not_answer_it_says_so_and_ends(self):
+		with tempfile.TemporaryDirectory() as home:
+			environment = {"HOME": home, "PATH": os.environ["PATH"], "DISPLAY": ":9973"}
+			done = subprocess.run([os.environ["VINYLOH"]], env=environment, timeout=30,
+				stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+			self.assertIn("display", done.stdout)
+			self.assertGreaterEqual(done.returncode, 0, "ended by a signal")
+
+	def test_without_a_session_bus_it_works_alone(self):
+		with Session() as session:
+			del session.environment["DBUS_SESSION_BUS_ADDRESS"]
+			path = os.path.join(session.home, "one.mp3")
+			make_title(path, 1, "One", "Nobody", 1)
+			program = Program(session, os.path.join(session.root, "log"))
+			self.assertEqual(program.drop([path]), 0)
+			program.wait_for_text(" add to mflist")
+			self.assertEqual(program.count("session bus"), 1)
+			self.assertEqual(program.close(), 0)
+			with open(os.path.join(session.home, "_koru_media_list"), encoding="utf-8") as file:
+				self.assertEqual(file.read(), path + "\n")
+
+	def test_without_a_home_folder_it_opens_and_closes(self):
+		with Session() as session:
+			missing = os.path.join(session.root, "gone")
+			for name in ["HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"]:
+				session.environment[name] = missing
+			path = os.path.join(session.home, "one.mp3")
+			make_title(path, 1, "One", "Nobody", 1)
+			program = Program(session, os.path.join(session.root, "log"))
+			self.assertEqual(program.drop([path]), 0)
+			program.wait_for_text(" add to mflist")
+			self.assertIsNone(program.process.poll())
+			self.assertFalse(os.path.exists(missing))
+
+
+if __name__ == "__main__":
+	as_ordinary_user()
+	unittest.main(verbosity=2)

@@ -32,10 +32,6 @@ typedef status_t (*thread_func)(void*);
 typedef struct {
 	team_id team;
 	int32 thread_count;
-	int32 image_count;
-	int32 area_count;
-	thread_id debugger_nub_thread;
-	port_id debugger_nub_port;
 	int32 argc;
 	char args[64];
 	uid_t uid;

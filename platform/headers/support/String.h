@@ -26,8 +26,6 @@ public:
 	int32 Length() const;
 	int32 CountChars() const;
 	bool IsEmpty() const;
-	uint32 HashValue() const;
-	static uint32 HashValue(const char* string);
 
 	BString& operator=(const BString& string);
 	BString& operator=(BString&& string) noexcept;
@@ -209,8 +207,5 @@ bool operator==(const char* a, const BString& b);
 bool operator>(const char* a, const BString& b);
 bool operator>=(const char* a, const BString& b);
 bool operator!=(const char* a, const BString& b);
-
-int Compare(const BString& a, const BString& b);
-int ICompare(const BString& a, const BString& b);
 
 #endif // STRING_CLASS_H

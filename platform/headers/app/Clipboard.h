@@ -2,6 +2,8 @@
 #ifndef CLIPBOARD_H
 #define CLIPBOARD_H
 
+#include <memory>
+
 #include <AppDefs.h>
 #include <Message.h>
 #include <Messenger.h>
@@ -10,6 +12,7 @@
 
 namespace hosted {
 struct ClipboardContents;
+struct ClipboardLock;
 } // namespace hosted
 
 
@@ -48,15 +51,15 @@ public:
 	BMessage* Data() const;
 
 private:
-	bool _AssertLocked() const;
+	void _AssertLocked() const;
+	bool _Download(bool always);
 
 private:
 	BString fName;
-	BMessage* fData;
+	std::unique_ptr<BMessage> fData;
 	// What all clipboards of this name share; lives as long as the process.
 	hosted::ClipboardContents* fShared;
-	struct Locker;
-	Locker* fLocker;
+	std::unique_ptr<hosted::ClipboardLock> fLock;
 	uint32 fCount = 0;
 };
 

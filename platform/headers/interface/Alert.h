@@ -10,7 +10,7 @@
 class BInvoker;
 
 namespace hosted {
-class AlertBox;
+struct AlertBox;
 } // namespace hosted
 
 
@@ -56,6 +56,9 @@ public:
 
 	int32 Go();
 	status_t Go(BInvoker* invoker);
+
+private:
+	void _PrepareToGo();
 
 private:
 	std::shared_ptr<hosted::AlertBox> fBox;

@@ -114,6 +114,9 @@ fetch_from_desktop(ClipboardContents* contents)
 	}
 	if (own)
 		return true;
+	// Nothing told of the change that was before the first look.
+	if (contents->count == 0)
+		contents->count = 1;
 	contents->data.MakeEmpty();
 	if (!text.empty())
 		contents->data.AddData("text/plain", B_MIME_TYPE, text.data(), ssize_t(text.size()), false);

@@ -12,6 +12,7 @@
 #include <taglib/infotag.h>
 #include <taglib/tag.h>
 #include <taglib/tiostream.h>
+#include <taglib/wavfile.h>
 
 #include "platform/desktop/FileContents.h"
 #include "platform/desktop/FileTypes.h"
@@ -163,6 +164,23 @@ utf8_of(const TagLib::String& text)
 }
 
 
+// The first of several tags of a file goes before the others.
+void
+add_missing(Tags& tags, const TagLib::Tag* more)
+{
+	if (more == nullptr)
+		return;
+	if (tags.artist.empty())
+		tags.artist = utf8_of(more->artist());
+	if (tags.title.empty())
+		tags.title = utf8_of(more->title());
+	if (tags.album.empty())
+		tags.album = utf8_of(more->album());
+	if (tags.track == 0)
+		tags.track = static_cast<int32>(std::min<unsigned int>(more->track(), INT_MAX));
+}
+
+
 Tags
 parse_tags(const std::string& path)
 {
@@ -173,13 +191,13 @@ parse_tags(const std::string& path)
 
 	BoundedStream stream(contents, path.substr(path.rfind('/') + 1));
 	const TagLib::FileRef file(&stream, false);
-	const TagLib::Tag* const tag = file.isNull() ? nullptr : file.tag();
-	if (tag == nullptr)
+	if (file.isNull())
 		return tags;
-	tags.artist = utf8_of(tag->artist());
-	tags.title = utf8_of(tag->title());
-	tags.album = utf8_of(tag->album());
-	tags.track = static_cast<int32>(std::min<unsigned int>(tag->track(), INT_MAX));
+	add_missing(tags, file.tag());
+	const TagLib::RIFF::WAV::File* const wave
+		= dynamic_cast<const TagLib::RIFF::WAV::File*>(file.file());
+	if (wave != nullptr)
+		add_missing(tags, wave->InfoTag());
 	return tags;
 }
 

@@ -42,7 +42,7 @@ public:
 
 private:
 	void _Open(const entry_ref* ref);
-	void _Open(BDataIO* source);
+	void _Open(BDataIO* source, const char* name);
 
 private:
 	std::unique_ptr<hosted::MediaReader> fReader;

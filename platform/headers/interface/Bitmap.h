@@ -72,7 +72,8 @@ public:
 private:
 	friend struct hosted::BitmapData;
 
-	std::unique_ptr<hosted::BitmapData> fData;
+	// Shared with the views that have it as their background.
+	std::shared_ptr<hosted::BitmapData> fData;
 };
 
 #endif // BITMAP_H

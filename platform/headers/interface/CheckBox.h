@@ -15,7 +15,6 @@ public:
 	void MouseDown(BPoint where) override;
 	void MouseMoved(BPoint where, uint32 code, const BMessage* dragMessage) override;
 	void MouseUp(BPoint where) override;
-	void KeyDown(const char* bytes, int32 numBytes) override;
 	void GetPreferredSize(float* width, float* height) override;
 
 private:

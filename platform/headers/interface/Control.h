@@ -35,6 +35,8 @@ public:
 	bool IsEnabled() const;
 
 protected:
+	// How the label is written, by whether the control is enabled.
+	rgb_color LabelColor() const;
 	bool IsTracking() const;
 	void SetTracking(bool tracking);
 

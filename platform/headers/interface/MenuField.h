@@ -26,7 +26,6 @@ public:
 	~BMenuField() override;
 
 	void AttachedToWindow() override;
-	void AllAttached() override;
 	void DetachedFromWindow() override;
 	void Draw(BRect updateRect) override;
 	void MouseDown(BPoint where) override;
@@ -45,7 +44,7 @@ public:
 
 private:
 	BRect _BoxFrame() const;
-	void _Open();
+	void _Open(bool staysOpen);
 
 private:
 	BString fLabel;

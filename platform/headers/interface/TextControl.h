@@ -6,7 +6,9 @@
 #include <TextView.h>
 
 
-/*!	A label and a line of text to type into. Enter, or leaving the line after a change, invokes.
+/*!	A label and a line of text to type into.
+
+	Enter, and leaving the line, invoke the control if the text has changed.
  */
 class BTextControl : public BControl {
 public:
@@ -19,7 +21,6 @@ public:
 	void Draw(BRect updateRect) override;
 	void MouseDown(BPoint where) override;
 	void MakeFocus(bool focused = true) override;
-	void FrameResized(float width, float height) override;
 	void SetEnabled(bool enabled) override;
 
 	virtual void SetText(const char* text);
@@ -29,7 +30,7 @@ public:
 	BTextView* TextView() const;
 
 private:
-	void _PlaceTextView();
+	BRect _BoxFrame() const;
 
 private:
 	// Child view.

@@ -2,10 +2,10 @@
 #ifndef TEXT_VIEW_H
 #define TEXT_VIEW_H
 
+#include <string>
 #include <vector>
 
 #include <Font.h>
-#include <String.h>
 #include <View.h>
 
 
@@ -63,28 +63,34 @@ private:
 
 	void _Layout();
 	void _LayoutParagraph(int32 begin, int32 end);
-	int32 _LineOf(int32 offset) const;
 	float _LineHeight() const;
 	float _Ascent() const;
 	float _WidthTo(const Line& line, int32 offset) const;
+	int32 _LineOf(int32 offset) const;
+	int32 _OffsetIn(const Line& line, float x) const;
 	int32 _OffsetAt(BPoint where) const;
 	BPoint _PointOf(int32 offset) const;
+	BRect _CaretRect() const;
 	int32 _Before(int32 offset) const;
 	int32 _After(int32 offset) const;
 	int32 _Whole(int32 offset) const;
-	void _Replace(int32 begin, int32 end, const char* text, int32 length);
+	void _Replace(int32 begin, int32 end, std::string text);
+	void _Erase(bool backwards);
 	void _MoveCaret(int32 offset, bool extend);
 	void _MoveLines(int32 lines, bool extend);
-	void _ShowCaret();
+	bool _HandleMove(char byte, bool extend);
+	void _ScrollToCaret();
+	void _ScrollLines(float lines);
 	void _SelectWordAt(int32 offset);
 	bool _HasCaret() const;
-	void _DrawLine(int32 index, float top);
-	bool _HandleMove(char byte, bool extend);
+	void _DrawLine(const Line& line, float top);
 	void _Copy(bool cut);
 	void _Paste();
 
 private:
-	BString fText;
+	friend class BTextControl;
+
+	std::string fText;
 	std::vector<Line> fLines;
 	BRect fTextRect;
 	BFont fFont;
@@ -97,6 +103,8 @@ private:
 	bool fWordWrap = true;
 	bool fEditable = true;
 	bool fSelectable = true;
+	// Line ends become blanks.
+	bool fSingleLine = false;
 	bool fDragging = false;
 	bool fCaretLit = true;
 };

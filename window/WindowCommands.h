@@ -6,7 +6,6 @@
 
 #include "appcontrol/PlayerMessages.h"
 #include "entryview/EntryMessages.h"
-#include "listview/MxViewCommands.h"
 #include "locale/LanguageMessages.h"
 
 
@@ -19,6 +18,13 @@ enum : uint32 {
 	kMsgShowTitleTab = 'MWsT',
 	kMsgToggleTitleTab = 'MWkT',
 	kMsgToggleAlwaysInFront = 'MWff',
+	// No fields; context menu, for the list view.
+	kMsgBoxSizeMaxi = 'MWmx',
+	kMsgBoxSizeNormal = 'MWmd',
+	kMsgBoxSizeMini = 'MWmi',
+	kMsgBoxSizeMicro = 'MWm4',
+	kMsgBoxSizePico = 'MWm5',
+	kMsgSetPlayTimes = 'MWPT',
 	// "korukey" int32, the number of a remote control's key; remote controls.
 	kMsgRemoteKey = 'MWse',
 
@@ -37,6 +43,12 @@ static_assert(kMsgHideTitleTab == 0x4D576854, "codes are read high byte first");
 static_assert(kMsgShowTitleTab == 0x4D577354, "codes are read high byte first");
 static_assert(kMsgToggleTitleTab == 0x4D576B54, "codes are read high byte first");
 static_assert(kMsgToggleAlwaysInFront == 0x4D576666, "codes are read high byte first");
+static_assert(kMsgBoxSizeMaxi == 0x4D576D78, "codes are read high byte first");
+static_assert(kMsgBoxSizeNormal == 0x4D576D64, "codes are read high byte first");
+static_assert(kMsgBoxSizeMini == 0x4D576D69, "codes are read high byte first");
+static_assert(kMsgBoxSizeMicro == 0x4D576D34, "codes are read high byte first");
+static_assert(kMsgBoxSizePico == 0x4D576D35, "codes are read high byte first");
+static_assert(kMsgSetPlayTimes == 0x4D575054, "codes are read high byte first");
 static_assert(kMsgRemoteKey == 0x4D577365, "codes are read high byte first");
 static_assert(kMsgWindowGone == 0x4D575F51, "codes are read high byte first");
 static_assert(kMsgRemoteGone == 0x69726D69, "codes are read high byte first");

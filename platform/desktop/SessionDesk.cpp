@@ -1,0 +1,112 @@
+// Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#include "platform/desktop/SessionDesk.h"
+
+#include <unistd.h>
+
+#include <QGuiApplication>
+
+#include <Roster.h>
+
+#include "platform/app/Transport.h"
+#include "platform/desktop/Activity.h"
+#include "platform/desktop/SessionBus.h"
+#include "platform/desktop/Watching.h"
+
+
+namespace hosted {
+
+namespace {
+
+SessionDesk* sCurrent = nullptr;
+
+} // namespace
+
+
+SessionDesk::SessionDesk()
+{
+	sCurrent = this;
+}
+
+
+SessionDesk::~SessionDesk()
+{
+	sCurrent = nullptr;
+	NoteOwnActivity(false);
+	QDBusConnection connection = SessionBus::Connection();
+	if (!connection.isConnected())
+		return;
+	connection.unregisterService(QString::fromStdString(fName));
+	connection.unregisterObject(QLatin1String(kObjectPath));
+}
+
+
+bool
+SessionDesk::Open(const std::string& name)
+{
+	QDBusConnection connection = SessionBus::Connection();
+	if (!connection.registerVirtualObject(QLatin1String(kObjectPath), &fObject))
+		return false;
+	fName = name;
+
+	// Watching begins before anybody is looked for, so that nobody is missed.
+	fPrograms.setConnection(connection);
+	fPrograms.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
+	fPrograms.addWatchedService(QLatin1String(kAppNamePrefix) + QLatin1Char('*'));
+	QObject::connect(&fPrograms, &QDBusServiceWatcher::serviceOwnerChanged, &fPrograms,
+		[this](const QString& changed, const QString&, const QString& owner) {
+			if (owner.isEmpty())
+				_Vanished(changed.toStdString());
+			else
+				_Appeared(changed.toStdString());
+		});
+	for (const RunningApp& program : RunningPrograms())
+		fSeen[program.busNames.front()] = program;
+	fSeen.erase(name);
+	QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &fPrograms,
+		[](Qt::ApplicationState state) { NoteOwnActivity(state == Qt::ApplicationActive); });
+
+	return connection.registerService(QString::fromStdString(name));
+}
+
+
+void
+SessionDesk::WatchPlayers()
+{
+	if (fPlayers == nullptr)
+		fPlayers = std::make_unique<PlayerWatch>();
+}
+
+
+SessionDesk*
+SessionDesk::Current()
+{
+	return sCurrent;
+}
+
+
+void
+SessionDesk::_Appeared(const std::string& name)
+{
+	RunningApp program;
+	if (fSeen.find(name) != fSeen.end() || !LookUpProgram(name, &program))
+		return;
+	fSeen[name] = program;
+	TellActivityTo(program.identity.team);
+	NotifyWatchers(B_SOME_APP_LAUNCHED, program);
+}
+
+
+void
+SessionDesk::_Vanished(const std::string& name)
+{
+	const auto found = fSeen.find(name);
+	if (found == fSeen.end())
+		return;
+	const RunningApp program = found->second;
+	fSeen.erase(found);
+	ForgetActivityOf(program.identity.team);
+	TeamIsGone(program.identity.team);
+	NotifyWatchers(B_SOME_APP_QUIT, program);
+}
+
+} // namespace hosted

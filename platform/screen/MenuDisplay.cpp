@@ -209,7 +209,8 @@ NativeMenu::Open(std::shared_ptr<const MenuContents> contents, const MenuPlace& 
 		state->over = true;
 		state->changed.notify_all();
 	};
-	const bool ran = DisplayThread::Call([&]() {
+	// An empty menu would be a speck that hardly anyone could close on purpose.
+	const bool ran = !contents->lines.empty() && DisplayThread::Call([&]() {
 		auto gesture = std::make_shared<Window::Gesture>();
 		gesture->place = place;
 		gesture->age.start();
@@ -228,9 +229,6 @@ NativeMenu::Open(std::shared_ptr<const MenuContents> contents, const MenuPlace& 
 		QObject::connect(menu, &QObject::destroyed, finish);
 		QObject::connect(qApp, &QCoreApplication::aboutToQuit, menu, [menu]() { delete menu; });
 		menu->popup(QPoint(place.x, place.y));
-		// A menu without items is never shown, so nothing would ever close it.
-		if (!menu->isVisible())
-			delete menu;
 	});
 	if (!ran)
 		finish();

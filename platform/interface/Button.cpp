@@ -22,7 +22,7 @@ void
 BButton::AttachedToWindow()
 {
 	BControl::AttachedToWindow();
-	if (fDefault)
+	if (fDefault && Window() != nullptr)
 		Window()->SetDefaultButton(this);
 }
 
@@ -30,7 +30,7 @@ BButton::AttachedToWindow()
 void
 BButton::DetachedFromWindow()
 {
-	if (Window()->DefaultButton() == this) {
+	if (Window() != nullptr && Window()->DefaultButton() == this) {
 		Window()->SetDefaultButton(nullptr);
 		// It is the default again in the next window.
 		fDefault = true;

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/screen/DisplayThread.h"
-#include "tests/support/Desktop.h"
+#include "tests/support/Popups.h"
 
 using hosted::DisplayThread;
 using hosted::MenuContents;

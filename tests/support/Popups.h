@@ -1,6 +1,6 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
-#ifndef DESKTOP_H
-#define DESKTOP_H
+#ifndef POPUPS_H
+#define POPUPS_H
 
 #include <string>
 #include <vector>
@@ -61,4 +61,4 @@ bool CloseDialog();
 
 } // namespace test
 
-#endif // DESKTOP_H
+#endif // POPUPS_H

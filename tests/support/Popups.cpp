@@ -1,5 +1,5 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
-#include "tests/support/Desktop.h"
+#include "tests/support/Popups.h"
 
 #include <QAbstractButton>
 #include <QActionGroup>

@@ -131,8 +131,9 @@ TEST(LanguageFiles, EachLineReplacesTheLabelMeantAndNoOther)
 		EXPECT_TRUE(expected.empty()) << path;
 		EXPECT_EQ(static_cast<size_t>(labels.fReplaced), kShown.size() + 1) << path;
 		for (int number = 0; eLabel[number] != nullptr; number++) {
-			if (kShown.count(number) == 0 && number != kTwinOfPlayers)
+			if (kShown.count(number) == 0 && number != kTwinOfPlayers) {
 				EXPECT_STREQ(labels.getLabel(nullptr, number), eLabel[number]) << path;
+			}
 		}
 	}
 }
@@ -145,10 +146,12 @@ TEST(LanguageFiles, TextsFitTheirPlaces)
 	for (const std::filesystem::path& path : language_files()) {
 		for (const Entry& entry : entries_of(path)) {
 			EXPECT_LE(BString(entry.translation.c_str()).CountChars(), 44) << path << entry.english;
-			if (entry.english == eLabel[kPlayers] || entry.english == eLabel[206])
+			if (entry.english == eLabel[kPlayers] || entry.english == eLabel[206]) {
 				EXPECT_EQ(entry.translation.back(), ' ') << path;
-			if (entry.english == eLabel[213] || entry.english == eLabel[214])
+			}
+			if (entry.english == eLabel[213] || entry.english == eLabel[214]) {
 				EXPECT_EQ(entry.translation.front(), ' ') << path;
+			}
 		}
 	}
 }

@@ -316,10 +316,11 @@ MediaReader::_DescribeStream(const AVFormatContext& context, const AVStream& str
 		return facts;
 	}
 	facts.duration = duration_of(context, stream);
-	const double rate = facts.decoded.type == B_MEDIA_RAW_AUDIO ? codec.sample_rate
-		: stream.avg_frame_rate.den > 0							? av_q2d(stream.avg_frame_rate)
-																:
-																0;
+	const AVRational pictures
+		= stream.avg_frame_rate.num > 0 ? stream.avg_frame_rate : stream.r_frame_rate;
+	double rate = codec.sample_rate;
+	if (facts.decoded.type == B_MEDIA_RAW_VIDEO)
+		rate = pictures.den > 0 ? av_q2d(pictures) : 0;
 	if (stream.nb_frames > 0 && facts.decoded.type == B_MEDIA_RAW_VIDEO)
 		facts.frames = stream.nb_frames;
 	else

@@ -5,10 +5,14 @@
 #include <QByteArray>
 #include <QIODevice>
 #include <QSize>
+#include <memory>
 #include <stdint.h>
 
 #include <GraphicsDefs.h>
+#include <Rect.h>
 #include <SupportDefs.h>
+
+#include "platform/interface/PixelSource.h"
 
 class BBitmap;
 class BBitmapStream;
@@ -62,9 +66,12 @@ bool ReadPictureFacts(QIODevice* device, PictureFacts* facts);
 // or ARGB32.
 QImage DecodePicture(QIODevice* device, const PictureFacts& facts, const QSize& size);
 
-// A bitmap that decodes when its pixels are needed, from the file that the source reads or else
-// from its contents. Null if the source cannot be read; the caller owns the bitmap.
-BBitmap* NewPictureBitmap(BPositionIO* source, const PictureFacts& facts);
+// What decodes the picture when its pixels are needed, from the file that the stream reads or else
+// from its contents. Null if the stream cannot be read.
+std::unique_ptr<PixelSource> NewPictureSource(BPositionIO* stream, const PictureFacts& facts);
+
+// The bounds of a picture as a bitmap.
+BRect BoundsOf(const PictureFacts& facts);
 
 
 // How a bitmap gets into a stream without being written pixel by pixel.

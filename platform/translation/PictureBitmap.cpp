@@ -14,11 +14,8 @@
 #include <QFile>
 #include <QImage>
 
-#include <Bitmap.h>
 #include <BitmapStream.h>
 #include <File.h>
-
-#include "platform/interface/PixelSource.h"
 
 
 namespace hosted {
@@ -104,11 +101,13 @@ path_of(int file)
 	return found;
 }
 
+} // namespace
+
 
 std::unique_ptr<PixelSource>
-source_for(BPositionIO* source, const PictureFacts& facts)
+NewPictureSource(BPositionIO* stream, const PictureFacts& facts)
 {
-	BFile* const file = dynamic_cast<BFile*>(source);
+	BFile* const file = dynamic_cast<BFile*>(stream);
 	if (file != nullptr) {
 		const int descriptor = file->Dup();
 		const std::string path = descriptor >= 0 ? path_of(descriptor) : "";
@@ -118,7 +117,7 @@ source_for(BPositionIO* source, const PictureFacts& facts)
 			return std::make_unique<FileSource>(path, facts);
 	}
 
-	StreamDevice device(source);
+	StreamDevice device(stream);
 	if (!device.open(QIODevice::ReadOnly))
 		return nullptr;
 	const QByteArray contents = device.read(device.size());
@@ -127,18 +126,12 @@ source_for(BPositionIO* source, const PictureFacts& facts)
 	return std::make_unique<MemorySource>(contents, facts);
 }
 
-} // namespace
 
-
-BBitmap*
-NewPictureBitmap(BPositionIO* source, const PictureFacts& facts)
+BRect
+BoundsOf(const PictureFacts& facts)
 {
-	std::unique_ptr<PixelSource> pixels = source_for(source, facts);
-	if (pixels == nullptr)
-		return nullptr;
-	const BRect bounds(0, 0, static_cast<float>(facts.size.width() - 1),
+	return BRect(0, 0, static_cast<float>(facts.size.width() - 1),
 		static_cast<float>(facts.size.height() - 1));
-	return NewLazyBitmap(bounds, facts.space, std::move(pixels));
 }
 
 

@@ -15,8 +15,7 @@ bitmap_of(BFile* file)
 	BBitmapStream stream;
 	BBitmap* bitmap = nullptr;
 	BTranslatorRoster roster;
-	const status_t status = roster.Translate(file, nullptr, nullptr, &stream,
-		B_TRANSLATOR_BITMAP);
+	const status_t status = roster.Translate(file, nullptr, nullptr, &stream, B_TRANSLATOR_BITMAP);
 	if (status != B_OK || stream.DetachBitmap(&bitmap) != B_OK)
 		return nullptr;
 	return bitmap;

@@ -1,13 +1,16 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
 #include <TranslatorRoster.h>
 
-#include <algorithm>
 #include <array>
+#include <ctype.h>
 #include <memory>
 #include <mutex>
 #include <stdio.h>
 #include <string.h>
 #include <string>
+#include <utility>
+
+#include <QImage>
 
 #include <Bitmap.h>
 #include <BitmapStream.h>
@@ -111,6 +114,28 @@ copy_all(BPositionIO* source, BPositionIO* destination)
 	return B_OK;
 }
 
+
+// Qt's pixels lie in memory as the platform's do.
+status_t
+write_stream_form(hosted::PixelSource& source, const PictureFacts& facts, BPositionIO* destination)
+{
+	const QImage image = source.Decode(QSize());
+	if (image.isNull())
+		return B_ILLEGAL_DATA;
+	TranslatorBitmap header;
+	header.magic = B_TRANSLATOR_BITMAP;
+	header.bounds = hosted::BoundsOf(facts);
+	header.rowBytes = static_cast<uint32>(image.bytesPerLine());
+	header.colors = facts.space;
+	header.dataSize = static_cast<uint32>(image.sizeInBytes());
+	uint8 bytes[hosted::kStreamHeaderSize];
+	hosted::WriteStreamHeader(header, bytes);
+	const status_t status = destination->WriteExactly(bytes, sizeof(bytes));
+	if (status != B_OK)
+		return status;
+	return destination->WriteExactly(image.constBits(), static_cast<size_t>(image.sizeInBytes()));
+}
+
 } // namespace
 
 
@@ -173,15 +198,14 @@ BTranslatorRoster::Translate(BPositionIO* source, const translator_info* info, B
 	PictureFacts facts;
 	if (!read_facts(source, &facts))
 		return B_NO_TRANSLATOR;
-	BBitmap* const bitmap = hosted::NewPictureBitmap(source, facts);
-	if (bitmap == nullptr)
+	std::unique_ptr<hosted::PixelSource> pixels = hosted::NewPictureSource(source, facts);
+	if (pixels == nullptr)
 		return B_IO_ERROR;
 
 	BBitmapStream* const stream = dynamic_cast<BBitmapStream*>(destination);
-	if (stream != nullptr) {
-		hosted::BitmapReceiver::Give(*stream, bitmap);
-		return B_OK;
-	}
-	BBitmapStream pixels(bitmap);
-	return copy_all(&pixels, destination);
+	if (stream == nullptr)
+		return write_stream_form(*pixels, facts, destination);
+	hosted::BitmapReceiver::Give(*stream,
+		hosted::NewLazyBitmap(hosted::BoundsOf(facts), facts.space, std::move(pixels)));
+	return B_OK;
 }

@@ -33,6 +33,11 @@ inline constexpr int32 kApplicationPort = 0;
 status_t DeliverFromOutside(const Address& target, const void* flattened, size_t size,
 	team_id sender);
 
+// Whether the sender of a message on its way out waits for an answer, and where that answer goes:
+// by DeliverFromOutside(), as a flattened message. The bytes themselves begin with the message as
+// BMessage::Unflatten() takes it.
+bool AwaitsReply(const void* flattened, size_t size, Address* replyTo);
+
 // That process is gone: everyone who waits for its answer is woken, with no reply.
 void TeamIsGone(team_id team);
 

@@ -55,15 +55,15 @@ private:
 	void _QueueStartMessages();
 	void _ArgvReceived(BMessage* message);
 	bool _QuitAllWindows(bool force);
-	BLooper* _NextWindow(bool listedFirst) const;
 
 private:
 	char* fSignature = NULL;
-	status_t fInitStatus;
 	bool fReadyToRunCalled = false;
 	bool fRegistered = false;
 	bigtime_t fPulseRate = 0;
 	BMessageRunner* fPulseRunner = NULL;
+	// Last, because it is made of what the others are for.
+	status_t fInitStatus;
 };
 
 extern BApplication* be_app;

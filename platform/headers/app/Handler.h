@@ -13,18 +13,10 @@ class BList;
 class BLooper;
 class BMessage;
 class BMessageFilter;
-class BMessenger;
 
 namespace hosted {
 class HandlerAccess;
-struct Observers;
 } // namespace hosted
-
-
-// The change that an observer gets notice of, when it watches all of them.
-#define B_OBSERVE_WHAT_CHANGE "be:observe_change_what"
-#define B_OBSERVE_ORIGINAL_WHAT "be:observe_orig_what"
-inline constexpr uint32 B_OBSERVER_OBSERVE_ALL = 0xffffffff;
 
 
 class BHandler : public BArchivable {
@@ -57,21 +49,7 @@ public:
 		int32 what, const char* property);
 	virtual status_t GetSupportedSuites(BMessage* data);
 
-	// To watch another application's or looper's handler, by messages that it answers to.
-	status_t StartWatching(BMessenger target, uint32 what);
-	status_t StartWatchingAll(BMessenger target);
-	status_t StopWatching(BMessenger target, uint32 what);
-	status_t StopWatchingAll(BMessenger target);
-	// To be watched by a handler.
-	status_t StartWatching(BHandler* observer, uint32 what);
-	status_t StartWatchingAll(BHandler* observer);
-	status_t StopWatching(BHandler* observer, uint32 what);
-	status_t StopWatchingAll(BHandler* observer);
-
 	status_t Perform(perform_code code, void* argument) override;
-
-	virtual void SendNotices(uint32 what, const BMessage* message = NULL);
-	bool IsWatched() const;
 
 private:
 	friend class BLooper;
@@ -83,7 +61,6 @@ private:
 	std::atomic<BLooper*> fLooper{NULL};
 	BHandler* fNextHandler = NULL;
 	BList* fFilters = NULL;
-	hosted::Observers* fObservers = NULL;
 };
 
 #endif // HANDLER_H

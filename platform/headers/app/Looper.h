@@ -101,8 +101,8 @@ protected:
 	// Dispatches straight to a handler of this looper, past target search, but through the filters.
 	// The message stays the caller's.
 	void _DispatchTo(BMessage* message, BHandler* handler);
-	// Waits, without the lock, until the queue holds a message, _Wake() is called, or the time has
-	// come (in system_time()). Only for the looper's thread. True if a message waits.
+	// Waits until the queue holds a message, _Wake() is called, or the time has
+	// come (in system_time()). The lock should not be held. True if a message waits.
 	bool _WaitForMessage(bigtime_t until);
 	// Ends a _WaitForMessage(); from any thread.
 	void _Wake();
@@ -119,11 +119,12 @@ private:
 	BLooper(int32 priority, int32 port, const char* name);
 
 	void _Init(int32 priority, int32 port, int32 capacity);
+	void _RunLoop();
 	void _DispatchNext(BMessage* message);
+	BMessage* _FinishMessage();
 	BHandler* _FindTarget(BMessage* message);
 	BHandler* _ResolveSpecifiers(BMessage* message, BHandler* target);
 	BHandler* _ApplyFilters(BMessage* message, BHandler* target);
-	void _Dispatch(BMessage* message, BHandler* target);
 	void _AnswerQuitRequest(BMessage* message);
 
 private:
@@ -132,7 +133,10 @@ private:
 	std::vector<BHandler*> fHandlers;
 	BHandler* fPreferred = NULL;
 	BList* fCommonFilters = NULL;
+	// The message that is being dispatched, null if somebody took it over.
 	BMessage* fLastMessage = NULL;
+	// Those that wait for the dispatch of another one in their midst.
+	std::vector<BMessage*> fOuterMessages;
 	int32 fPriority = B_NORMAL_PRIORITY;
 	bool fTerminating = false;
 };

@@ -30,8 +30,8 @@ public:
 	status_t GetInfo(bigtime_t* interval, int32* count) const;
 
 private:
-	void _Start(const BMessenger& target, const BMessage* message, bigtime_t interval, int32 count,
-		const BMessenger& replyTo);
+	status_t _Start(const BMessenger& target, const BMessage* message, bigtime_t interval,
+		int32 count, const BMessenger& replyTo);
 
 private:
 	int64 fTimer = 0;

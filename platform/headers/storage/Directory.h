@@ -66,10 +66,6 @@ private:
 	status_t _ReadEntries();
 	// The next name that is not "." or ".." into name, or an error.
 	status_t _NextName(std::string* name);
-	std::shared_ptr<hosted::Folder> _Folder() const;
-
-protected:
-	void _Close() override;
 
 private:
 	struct Entries;

@@ -78,10 +78,15 @@ private:
 	friend class BDirectory;
 	friend class BFile;
 	friend class BNode;
+	friend class BPath;
 	friend class BSymLink;
 
-	status_t _NodePath(char* buffer, size_t size) const override;
-	status_t _SetTo(const std::shared_ptr<hosted::Folder>& base, const char* path, bool traverse);
+	status_t _NodePath(std::string* path, bool* follow) const override;
+	status_t _Assign(std::shared_ptr<hosted::Folder> folder, std::string name);
+	status_t _Resolve(std::shared_ptr<hosted::Folder> base, const char* path, bool traverse,
+		int linksLeft);
+	status_t _ResolveDots(int base, const std::string& path);
+	status_t _Follow(int linksLeft);
 	status_t _Rename(const std::shared_ptr<hosted::Folder>& base, const char* path, bool clobber);
 
 private:

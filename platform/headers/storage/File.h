@@ -38,6 +38,8 @@ public:
 	BFile& operator=(const BFile& file);
 
 private:
+	friend class BDirectory;
+
 	status_t _SetTo(int folder, const char* path, uint32 openMode);
 
 private:

@@ -83,12 +83,11 @@ protected:
 	// Takes a descriptor over and gives the former one up.
 	status_t _Adopt(int fd, status_t status);
 	int _Descriptor() const { return fFd; }
-	virtual void _Close();
 
 private:
-	friend class BSymLink;
+	friend class BDirectory;
 
-	status_t _NodePath(char* buffer, size_t size) const override;
+	status_t _NodePath(std::string* path, bool* follow) const override;
 	status_t _SetTo(int folder, const char* path);
 
 private:

@@ -3,6 +3,7 @@
 #define STATABLE_H
 
 #include <SupportDefs.h>
+#include <string>
 #include <sys/stat.h>
 #include <time.h>
 
@@ -35,8 +36,9 @@ public:
 	status_t GetVolume(BVolume* volume) const;
 
 private:
-	// A path to the node itself, which stays valid while the object does.
-	virtual status_t _NodePath(char* buffer, size_t size) const = 0;
+	// A path that leads to the node while the object exists. Its last component is to be followed
+	// only if follow is set.
+	virtual status_t _NodePath(std::string* path, bool* follow) const = 0;
 };
 
 #endif // STATABLE_H

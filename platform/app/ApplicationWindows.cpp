@@ -9,6 +9,7 @@
 
 #include "platform/app/LooperCore.h"
 #include "platform/app/Registry.h"
+#include "platform/interface/MenuTracking.h"
 
 using hosted::LooperCore;
 using hosted::Registry;
@@ -61,6 +62,8 @@ BApplication::_QuitAllWindows(bool force)
 	if (locks > 0)
 		fCore->UnlockFully();
 
+	// A window that waits for its menu's answer keeps its lock.
+	hosted::CloseMenusOf(nullptr);
 	bool quits = true;
 	while (quits) {
 		const std::vector<std::shared_ptr<LooperCore>> windows = Registry::Get().Windows(!force);

@@ -3,18 +3,18 @@
 #define WINDOW_HOST_H
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include <QImage>
 #include <QRegion>
 
 #include <Message.h>
+#include <MessageRunner.h>
 #include <OS.h>
 #include <Window.h>
 
 #include "platform/interface/ViewHost.h"
-
-class BMessageRunner;
 
 
 namespace hosted {
@@ -23,14 +23,13 @@ class NativeWindow;
 
 /*!	What a BWindow keeps: its views and their picture, where its input goes, its native window.
 
-	Used with the window's lock held, except where noted. The public part below is for views, menus
-	and alerts.
+	Used with the window's lock held, except where noted.
 */
 class WindowHost : public ViewHost {
 public:
 	static WindowHost* Of(const BWindow* window);
 
-	explicit WindowHost(BWindow* window);
+	WindowHost(BWindow* window, BRect frame, const char* title);
 	~WindowHost() override;
 
 	QImage* Image() override;
@@ -39,29 +38,121 @@ public:
 	const QRegion& PendingUpdate() const override;
 	BWindow* Window() override;
 	BPoint ScreenOrigin() const override;
+	bool GetMouse(BPoint* hostWhere, uint32* buttons, bool checkMessageQueue) override;
+	void SetMouseEventMask(BView& view, uint32 mask, uint32 options) override;
+	void PulseNeeded() override;
+	void ViewDetached(BView& view) override;
+	void FocusChanged(BView* view) override;
 
 	// The view that covers the window and is the parent of all others.
-	BView* Root() const;
-
-	// A view of the window calls these: after its AttachedToWindow() and before its
-	// DetachedFromWindow().
-	void ViewAttached(BView* view);
-	void ViewDetached(BView* view);
-
-	// The view that keys go to, or null.
-	BView* Focus() const;
-	void SetFocus(BView* view);
-
-	// As BView's calls of these names; the position is in screen coordinates.
-	void SetMouseEventMask(BView* view, uint32 mask, uint32 options);
-	void GetMouse(BPoint* screenWhere, uint32* buttons, bool checkMessageQueue);
+	BView& Root() const { return *fRoot; }
 
 	// Shows what was painted so far. Never waits.
 	void Flush();
 
-	// The window on the desktop; may be used from any thread. It exists from the start, even though
-	// nothing is to be seen before the first Show().
-	const std::shared_ptr<NativeWindow>& Native() const;
+	// The window on the desktop; may be asked for and used from any thread. It exists from the
+	// start, even though nothing is to be seen before the first Show().
+	const std::shared_ptr<NativeWindow>& Native() const { return fNative; }
+
+private:
+	friend class ::BWindow;
+
+	struct Shortcut {
+		uint32 key;
+		uint32 modifiers;
+		std::unique_ptr<BMessage> message;
+		// Null for the focus view, or else the window.
+		BHandler* target;
+	};
+
+	// How often the same place was clicked.
+	struct Clicks {
+		BView* view = nullptr;
+		BPoint where;
+		bigtime_t when = 0;
+		uint32 button = 0;
+		uint32 modifiers = 0;
+		int32 count = 0;
+	};
+
+	// Painting.
+	bool _IsHidden() const { return fHideLevel > 0; }
+	void _SetVisible();
+	void _SetSize(float width, float height);
+	void _PaintPending();
+	void _WakeWindow();
+
+	// The frame, the look.
+	void _RequestFrame();
+	void _ClampToLimits(float& width, float& height) const;
+	void _RequestLimits();
+	void _RequestLook();
+	bool _AdoptFrameMessage(BMessage& message);
+
+	void _StartPulse();
+
+	// Input.
+	BHandler* _TargetFor(BMessage& message, BHandler* target);
+	BHandler* _TargetForKey(BMessage& message);
+	BHandler* _TargetForPointer(BMessage& message);
+	BHandler* _TargetForWheel(BMessage& message);
+	BHandler* _TargetForDrop(BMessage& message);
+	BView* _ViewUnder(const BMessage& message) const;
+	void _CountClick(BMessage& message, BView* view);
+	void _SendPointerTo(const BMessage& message, BView& view, BPoint where, int32 transit);
+	void _EndMouseEventMask(const BMessage& message);
+	bool _HandleKeyDown(const BMessage& message);
+	bool _InvokeShortcut(const BMessage& message, uint32 key, uint32 modifiers);
+	void _AddShortcut(uint32 key, uint32 modifiers, BMessage* message, BHandler* target);
+	void _RemoveShortcut(uint32 key, uint32 modifiers);
+	void _MoveFocus(bool forward);
+
+private:
+	BWindow* fWindow;
+	std::unique_ptr<BView> fRoot;
+	std::shared_ptr<NativeWindow> fNative;
+
+	QImage fImage;
+	QRegion fPending;
+	QRegion fPainted;
+	int32 fUpdatesDisabled = 0;
+	bool fIsPainting = false;
+	bool fWakePosted = false;
+
+	BRect fFrame;
+	// Counts the changes of fFrame that did not come from the desktop.
+	int32 fFrameSerial = 0;
+	std::string fTitle;
+	window_look fLook = B_TITLED_WINDOW_LOOK;
+	window_feel fFeel = B_NORMAL_WINDOW_FEEL;
+	uint32 fFlags = B_ASYNCHRONOUS_CONTROLS;
+	uint32 fWorkspaces = 0;
+	int32 fHideLevel = 1;
+	bool fIsMinimized = false;
+	bool fIsActive = false;
+	float fMinWidth = 0;
+	float fMaxWidth = 32768;
+	float fMinHeight = 0;
+	float fMaxHeight = 32768;
+	float fMaxZoomWidth = 32768;
+	float fMaxZoomHeight = 32768;
+	// The frame to go back to; invalid as long as the window is not zoomed.
+	BRect fUnzoomedFrame;
+	BRect fZoomedFrame;
+
+	bigtime_t fPulseRate = 500000;
+	std::unique_ptr<BMessageRunner> fPulseRunner;
+
+	// Views of the window: ViewDetached() clears these.
+	BView* fPointerView = nullptr;
+	BView* fTargetView = nullptr;
+	BView* fMaskView = nullptr;
+	BView* fDefaultButton = nullptr;
+	uint32 fMask = 0;
+	Clicks fClicks;
+	// The message being dispatched, if it is a key from the desktop.
+	const BMessage* fKeyMessage = nullptr;
+	std::vector<Shortcut> fShortcuts;
 };
 
 } // namespace hosted

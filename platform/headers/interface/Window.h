@@ -176,6 +176,13 @@ private:
 	BWindow& operator=(const BWindow&) = delete;
 
 	void _BatchDone() override;
+	BHandler* _TargetFor(BMessage* message, BHandler* target, bool preferred) override;
+	BWindow* _AsWindow(bool* listed) const override;
+
+	void _Init(BRect frame, const char* title, uint32 flags, uint32 workspaces);
+	void _FrameMessage(BMessage* message);
+	void _ActivationMessage(BMessage* message);
+	bool _DispatchOwn(BMessage* message);
 
 private:
 	std::unique_ptr<hosted::WindowHost> fHost;

@@ -1,0 +1,90 @@
+// Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#ifndef NATIVE_WINDOW_H
+#define NATIVE_WINDOW_H
+
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <string>
+
+#include <QImage>
+#include <QRect>
+#include <QRegion>
+#include <QSize>
+
+#include <Messenger.h>
+#include <SupportDefs.h>
+
+class BMessage;
+
+
+namespace hosted {
+
+class NativeWidget;
+
+// What a window asks of the desktop. Sizes and places are those of its contents, in pixels.
+struct WindowWishes {
+	std::string title;
+	QRect frame;
+	// Counts the changes of frame that the window itself made.
+	int32 serial = 0;
+	QSize smallest;
+	QSize largest;
+	bool hasBorder = true;
+	bool staysOnTop = false;
+	bool isModal = false;
+	bool isVisible = false;
+	bool isMinimized = false;
+	uint32 flags = 0;
+};
+
+/*!	A window on the desktop, as seen by the window's own thread: wishes and pixels go in, messages
+	come out to the target.
+
+	Shared by the window and the display thread. All calls may come from any thread, except where
+	noted, and none waits.
+*/
+class NativeWindow : public std::enable_shared_from_this<NativeWindow> {
+public:
+	explicit NativeWindow(const BMessenger& target);
+	~NativeWindow();
+
+	// Changes the wishes; the display thread takes over what they are by the time it gets to it.
+	void Change(const std::function<void(WindowWishes&)>& change);
+	// Brings the window to the front and gives it the keys, or sends it to the back.
+	void Activate(bool activate);
+	// Takes the window off the desktop. No message is sent after this call has returned.
+	void Close();
+
+	// Copies the region of the picture and shows it.
+	void Show(const QImage& picture, const QRegion& region);
+	// A copy of the picture as shown last.
+	QImage Picture() const;
+
+	// For the display thread only.
+	void Send(BMessage& message);
+	void Paint(const std::function<void(const QImage& picture)>& paint) const;
+	// Null before the first show and after the close.
+	NativeWidget* Widget() const;
+
+private:
+	void _PostApply();
+	void _Apply();
+	void _PostRepaint();
+
+private:
+	mutable std::mutex fMutex;
+	BMessenger fTarget;
+	WindowWishes fWishes;
+	bool fIsClosed = false;
+	bool fApplyPosted = false;
+	bool fRepaintPosted = false;
+	QImage fPicture;
+	QRegion fNewPixels;
+	// Belongs to the display thread.
+	NativeWidget* fWidget = nullptr;
+};
+
+} // namespace hosted
+
+#endif // NATIVE_WINDOW_H

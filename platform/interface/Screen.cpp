@@ -54,8 +54,7 @@ BScreen::IndexForColor(rgb_color color)
 	// Every color that is mostly transparent is the one transparent entry.
 	if (color.alpha < 128)
 		return B_TRANSPARENT_8_BIT;
-	const int index =
-		((color.red & 0xf8) << 7) | ((color.green & 0xf8) << 2) | (color.blue >> 3);
+	const int index = ((color.red & 0xf8) << 7) | ((color.green & 0xf8) << 2) | (color.blue >> 3);
 	return system_colors()->index_map[index];
 }
 

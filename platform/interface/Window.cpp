@@ -41,11 +41,12 @@ void
 BWindow::_Init(BRect frame, const char* title, uint32 flags, uint32 workspaces)
 {
 	if (be_app == nullptr)
-		hosted::StopProgram("A window needs a BApplication.");
+		hosted::Debugger("A window needs a BApplication.");
 	fHost = std::make_unique<hosted::WindowHost>(this, frame, title);
 	fHost->fFlags = flags | B_ASYNCHRONOUS_CONTROLS;
 	fHost->fWorkspaces = workspaces;
 	fHost->_RequestLook();
+	_SetWindow(this, true);
 }
 
 
@@ -53,6 +54,7 @@ BWindow::_Init(BRect frame, const char* title, uint32 flags, uint32 workspaces)
 // still there.
 BWindow::~BWindow()
 {
+	_SetWindow(nullptr, false);
 	Unlock();
 	Lock();
 	fHost.reset();
@@ -220,14 +222,6 @@ BHandler*
 BWindow::_TargetFor(BMessage* message, BHandler* target, bool)
 {
 	return fHost->_TargetFor(*message, target);
-}
-
-
-BWindow*
-BWindow::_AsWindow(bool* listed) const
-{
-	*listed = true;
-	return const_cast<BWindow*>(this);
 }
 
 

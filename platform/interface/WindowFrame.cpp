@@ -113,8 +113,7 @@ void
 WindowHost::_RequestLook()
 {
 	const bool hasBorder = has_title(fLook);
-	const bool staysOnTop =
-		fFeel == B_FLOATING_ALL_WINDOW_FEEL || fFeel == B_MODAL_ALL_WINDOW_FEEL;
+	const bool staysOnTop = fFeel == B_FLOATING_ALL_WINDOW_FEEL || fFeel == B_MODAL_ALL_WINDOW_FEEL;
 	const bool isModal = fWindow->IsModal();
 	const uint32 flags = fFlags;
 	fNative->Change([=](WindowWishes& wishes) {

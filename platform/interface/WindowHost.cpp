@@ -33,8 +33,8 @@ WindowHost::WindowHost(BWindow* window, BRect frame, const char* title)
 {
 	fRoot.reset(NewRootView(*this, fFrame.OffsetToCopy(0, 0)));
 	_AddShortcut('w', 0, new BMessage(B_QUIT_REQUESTED), window);
-	for (auto [key, command] : {std::pair<uint32, uint32>{'x', B_CUT}, {'c', B_COPY},
-			 {'v', B_PASTE}, {'a', B_SELECT_ALL}})
+	for (auto [key, command] :
+		{std::pair<uint32, uint32>{'x', B_CUT}, {'c', B_COPY}, {'v', B_PASTE}, {'a', B_SELECT_ALL}})
 		_AddShortcut(key, 0, new BMessage(command), nullptr);
 	fNative->Change([this](WindowWishes& wishes) { wishes.title = fTitle; });
 	_RequestFrame();
@@ -183,16 +183,16 @@ WindowHost::PulseNeeded()
 void
 WindowHost::_StartPulse()
 {
-	fPulseRunner =
-		std::make_unique<BMessageRunner>(BMessenger(fWindow), BMessage(B_PULSE), fPulseRate);
+	fPulseRunner
+		= std::make_unique<BMessageRunner>(BMessenger(fWindow), BMessage(B_PULSE), fPulseRate);
 }
 
 
 void
 WindowHost::ViewDetached(BView& view)
 {
-	for (BView** pointer : {&fPointerView, &fTargetView, &fMaskView, &fDefaultButton,
-			 &fClicks.view}) {
+	for (BView** pointer :
+		{&fPointerView, &fTargetView, &fMaskView, &fDefaultButton, &fClicks.view}) {
 		if (*pointer == &view)
 			*pointer = nullptr;
 	}

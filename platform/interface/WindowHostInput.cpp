@@ -26,8 +26,8 @@ constexpr float kClickDistance = 4;
 // Moves of the pointer that waited longer are passed over by who polls it, in microseconds.
 constexpr bigtime_t kOldMove = 10000;
 
-constexpr uint32 kShortcutModifiers =
-	B_SHIFT_KEY | B_COMMAND_KEY | B_CONTROL_KEY | B_OPTION_KEY | B_MENU_KEY;
+constexpr uint32 kShortcutModifiers
+	= B_SHIFT_KEY | B_COMMAND_KEY | B_CONTROL_KEY | B_OPTION_KEY | B_MENU_KEY;
 
 
 bool
@@ -41,8 +41,7 @@ is_pointer_message(const BMessage& message)
 bool
 is_old_move(const BMessage& message)
 {
-	return message.what == B_MOUSE_MOVED
-		&& system_time() - message.GetInt64("when", 0) > kOldMove;
+	return message.what == B_MOUSE_MOVED && system_time() - message.GetInt64("when", 0) > kOldMove;
 }
 
 
@@ -97,8 +96,7 @@ WindowHost::_TargetFor(BMessage& message, BHandler* target)
 BHandler*
 WindowHost::_TargetForKey(BMessage& message)
 {
-	if (fMaskView != nullptr && (fMask & B_KEYBOARD_EVENTS) != 0
-		&& fMaskView != FocusView(*fRoot))
+	if (fMaskView != nullptr && (fMask & B_KEYBOARD_EVENTS) != 0 && fMaskView != FocusView(*fRoot))
 		fWindow->_DispatchTo(&message, fMaskView);
 	fKeyMessage = &message;
 	BView* view = FocusView(*fRoot);

@@ -195,8 +195,8 @@ NativeWidget::_ApplyVisibility(const WindowWishes& wishes)
 		else
 			hide();
 	}
-	const bool isListed =
-		std::find(sModalWidgets.begin(), sModalWidgets.end(), this) != sModalWidgets.end();
+	const bool isListed
+		= std::find(sModalWidgets.begin(), sModalWidgets.end(), this) != sModalWidgets.end();
 	if (wishes.isVisible && wishes.isModal && !isListed) {
 		sModalWidgets.push_back(this);
 	} else if (isListed && !(wishes.isVisible && wishes.isModal)) {

@@ -57,8 +57,7 @@ to_point(const QPointF& point)
 
 
 void
-NativeWidget::_SendPointerMessage(BMessage& message, const QPointF& where,
-	Qt::MouseButtons buttons)
+NativeWidget::_SendPointerMessage(BMessage& message, const QPointF& where, Qt::MouseButtons buttons)
 {
 	PointerState pointer;
 	pointer.isOurs = true;
@@ -138,8 +137,8 @@ NativeWidget::leaveEvent(QEvent*)
 	message.AddInt32("buttons", 0);
 	message.AddInt32("modifiers", CurrentKeys().modifiers);
 	message.AddInt32(kInputKind, kInputPointer);
-	message.AddPoint(kInputWhere, to_point(mapFromGlobal(
-		QPointF(pointer.screenWhere.x, pointer.screenWhere.y))));
+	message.AddPoint(kInputWhere,
+		to_point(mapFromGlobal(QPointF(pointer.screenWhere.x, pointer.screenWhere.y))));
 	message.AddBool(kInputOutside, true);
 	fWindow->Send(message);
 }

@@ -82,10 +82,9 @@ NativeWindow::Show(const QImage& picture, const QRegion& region)
 			fPicture = picture.copy();
 			fNewPixels = fPicture.rect();
 		} else {
-			const QRegion pixels = region.rectCount() > kMostRectangles
-				? QRegion(region.boundingRect())
-				: region;
-			for (const QRect& rect : pixels & fPicture.rect())
+			const QRegion pixels
+				= region.rectCount() > kMostRectangles ? QRegion(region.boundingRect()) : region;
+			for (const QRect& rect : pixels& fPicture.rect())
 				copy_pixels(picture, fPicture, rect);
 			fNewPixels += pixels;
 		}

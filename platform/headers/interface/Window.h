@@ -177,7 +177,6 @@ private:
 
 	void _BatchDone() override;
 	BHandler* _TargetFor(BMessage* message, BHandler* target, bool preferred) override;
-	BWindow* _AsWindow(bool* listed) const override;
 
 	void _Init(BRect frame, const char* title, uint32 flags, uint32 workspaces);
 	void _FrameMessage(BMessage* message);

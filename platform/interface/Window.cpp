@@ -312,12 +312,6 @@ BWindow::_ActivationMessage(BMessage* message)
 void
 BWindow::MessageReceived(BMessage* message)
 {
-	const uint32 modifiers = message->GetInt32("modifiers", 0);
-	if (message->what == B_KEY_DOWN && message->GetInt8("byte", 0) == B_TAB
-		&& CurrentFocus() != nullptr) {
-		fHost->_MoveFocus((modifiers & B_SHIFT_KEY) == 0);
-		return;
-	}
 	BLooper::MessageReceived(message);
 }
 

@@ -115,11 +115,13 @@ WindowHost::_RequestLook()
 	const bool hasBorder = has_title(fLook);
 	const bool staysOnTop = fFeel == B_FLOATING_ALL_WINDOW_FEEL || fFeel == B_MODAL_ALL_WINDOW_FEEL;
 	const bool isModal = fWindow->IsModal();
+	const bool onAllWorkspaces = fWorkspaces == B_ALL_WORKSPACES;
 	const uint32 flags = fFlags;
 	fNative->Change([=](WindowWishes& wishes) {
 		wishes.hasBorder = hasBorder;
 		wishes.staysOnTop = staysOnTop;
 		wishes.isModal = isModal;
+		wishes.onAllWorkspaces = onAllWorkspaces;
 		wishes.flags = flags;
 	});
 }
@@ -489,6 +491,7 @@ BWindow::SetWorkspaces(uint32 workspaces)
 {
 	BAutolock lock(this);
 	fHost->fWorkspaces = workspaces;
+	fHost->_RequestLook();
 }
 
 

@@ -105,7 +105,7 @@ private:
 	bool _InvokeShortcut(const BMessage& message, uint32 key, uint32 modifiers);
 	void _AddShortcut(uint32 key, uint32 modifiers, BMessage* message, BHandler* target);
 	void _RemoveShortcut(uint32 key, uint32 modifiers);
-	void _MoveFocus(bool forward);
+	bool _MoveFocus(bool forward);
 
 private:
 	BWindow* fWindow;

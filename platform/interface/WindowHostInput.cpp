@@ -263,6 +263,8 @@ WindowHost::_HandleKeyDown(const BMessage& message)
 	// Leads from window to window, which is the desktop's business.
 	if ((modifiers & B_CONTROL_KEY) != 0 && key == B_TAB)
 		return true;
+	if (key == B_TAB && (modifiers & ~B_SHIFT_KEY) == 0)
+		return _MoveFocus(modifiers == 0);
 	if ((modifiers & B_COMMAND_KEY) == 0)
 		return false;
 	if (message.HasInt32("be:key_repeat") || _InvokeShortcut(message, key, modifiers))
@@ -316,21 +318,22 @@ WindowHost::_RemoveShortcut(uint32 key, uint32 modifiers)
 }
 
 
-// The view after or before the focus view in the order of the list, from the end on again from the
-// beginning.
-void
+// Leads from the view that the keyboard can reach, and that has the focus or holds the view that has
+// it, to the next one or the one before, around the ends. False if the focus is elsewhere.
+bool
 WindowHost::_MoveFocus(bool forward)
 {
+	const BView* focus = FocusView(*fRoot);
+	if (focus == nullptr)
+		return false;
 	const std::vector<BView*> views = NavigableViews(*fRoot);
-	if (views.empty())
-		return;
-	const auto focus = std::find(views.begin(), views.end(), FocusView(*fRoot));
-	size_t index = forward ? 0 : views.size() - 1;
-	if (focus != views.end()) {
-		const size_t step = forward ? 1 : views.size() - 1;
-		index = (focus - views.begin() + step) % views.size();
-	}
-	views[index]->MakeFocus(true);
+	const auto found = std::find_if(views.begin(), views.end(),
+		[focus](const BView* view) { return IsInTree(*view, *focus); });
+	if (found == views.end())
+		return false;
+	const size_t step = forward ? 1 : views.size() - 1;
+	views[(found - views.begin() + step) % views.size()]->MakeFocus(true);
+	return true;
 }
 
 } // namespace hosted

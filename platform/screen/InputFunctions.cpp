@@ -9,6 +9,7 @@
 
 #include "platform/screen/DisplayThread.h"
 #include "platform/screen/InputState.h"
+#include "platform/screen/Workspaces.h"
 
 
 status_t
@@ -63,4 +64,57 @@ void
 set_mouse_position(int32 x, int32 y)
 {
 	hosted::DisplayThread::Call([x, y]() { QCursor::setPos(x, y); });
+}
+
+
+void
+set_mouse_mode(mode_mouse mode)
+{
+	hosted::SetMouseMode(mode);
+}
+
+
+mode_mouse
+mouse_mode()
+{
+	return hosted::MouseMode();
+}
+
+
+void
+set_focus_follows_mouse(bool follow)
+{
+	set_mouse_mode(follow ? B_FOCUS_FOLLOWS_MOUSE : B_NORMAL_MOUSE);
+}
+
+
+bool
+focus_follows_mouse()
+{
+	return mouse_mode() == B_FOCUS_FOLLOWS_MOUSE;
+}
+
+
+int32
+count_workspaces()
+{
+	int32 count = 1;
+	hosted::DisplayThread::Call([&count]() { count = hosted::CountWorkspaces(); });
+	return count;
+}
+
+
+int32
+current_workspace()
+{
+	int32 workspace = 0;
+	hosted::DisplayThread::Call([&workspace]() { workspace = hosted::CurrentWorkspace(); });
+	return workspace;
+}
+
+
+void
+activate_workspace(int32 workspace)
+{
+	hosted::DisplayThread::Call([workspace]() { hosted::ActivateWorkspace(workspace); });
 }

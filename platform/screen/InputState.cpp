@@ -12,6 +12,7 @@ struct State {
 	std::mutex mutex;
 	key_info keys = {};
 	PointerState pointer;
+	mode_mouse mouseMode = B_NORMAL_MOUSE;
 };
 
 
@@ -55,6 +56,22 @@ SetCurrentPointer(const PointerState& pointer)
 {
 	std::lock_guard<std::mutex> lock(state().mutex);
 	state().pointer = pointer;
+}
+
+
+mode_mouse
+MouseMode()
+{
+	std::lock_guard<std::mutex> lock(state().mutex);
+	return state().mouseMode;
+}
+
+
+void
+SetMouseMode(mode_mouse mode)
+{
+	std::lock_guard<std::mutex> lock(state().mutex);
+	state().mouseMode = mode;
 }
 
 } // namespace hosted

@@ -26,6 +26,11 @@ void SetCurrentKeys(const key_info& keys);
 PointerState CurrentPointer();
 void SetCurrentPointer(const PointerState& pointer);
 
+// How windows of the program become active; those of other programs follow the desktop's own
+// setting. From any thread.
+mode_mouse MouseMode();
+void SetMouseMode(mode_mouse mode);
+
 } // namespace hosted
 
 #endif // INPUT_STATE_H

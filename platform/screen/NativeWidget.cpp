@@ -16,6 +16,7 @@
 #include <Window.h>
 
 #include "platform/interface/InputFields.h"
+#include "platform/screen/Workspaces.h"
 
 
 namespace hosted {
@@ -100,6 +101,10 @@ NativeWidget::Apply(const WindowWishes& wishes)
 		setWindowTitle(qt_title(wishes.title));
 	_ApplyFlags(wishes);
 	_ApplyFrame(wishes);
+	if (wishes.onAllWorkspaces != (!fIsNew && fWishes.onAllWorkspaces)) {
+		create();
+		ShowOnAllWorkspaces(*this, wishes.onAllWorkspaces);
+	}
 	_ApplyVisibility(wishes);
 	fWishes = wishes;
 	fIsNew = false;

@@ -124,6 +124,14 @@ NativeWidget::mouseMoveEvent(QMouseEvent* event)
 
 
 void
+NativeWidget::enterEvent(QEnterEvent*)
+{
+	if (MouseMode() == B_FOCUS_FOLLOWS_MOUSE && !IsBlocked())
+		activateWindow();
+}
+
+
+void
 NativeWidget::leaveEvent(QEvent*)
 {
 	PointerState pointer = CurrentPointer();

@@ -33,6 +33,7 @@ struct WindowWishes {
 	bool hasBorder = true;
 	bool staysOnTop = false;
 	bool isModal = false;
+	bool onAllWorkspaces = false;
 	bool isVisible = false;
 	bool isMinimized = false;
 	uint32 flags = 0;

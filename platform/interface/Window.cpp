@@ -11,6 +11,7 @@
 #include <Messenger.h>
 
 #include "platform/app/Debugger.h"
+#include "platform/interface/MenuTracking.h"
 #include "platform/interface/ViewPrivate.h"
 #include "platform/interface/WindowHost.h"
 #include "platform/screen/DisplayThread.h"
@@ -50,13 +51,12 @@ BWindow::_Init(BRect frame, const char* title, uint32 flags, uint32 workspaces)
 }
 
 
-// The derived parts are gone. Whoever waits for the lock gets it once more, and finds the views
-// still there.
+// The derived parts are gone. Whoever waited for the lock has been refused by now; the views are
+// deleted with it held.
 BWindow::~BWindow()
 {
 	_SetWindow(nullptr, false);
-	Unlock();
-	Lock();
+	hosted::CloseMenusOf(this);
 	fHost.reset();
 }
 

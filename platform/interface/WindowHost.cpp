@@ -143,8 +143,9 @@ WindowHost::_PaintPending()
 void
 WindowHost::Flush()
 {
-	if (fPainted.isEmpty() || _IsHidden() || Image() == nullptr)
+	if (_IsHidden() || Image() == nullptr || (fPainted.isEmpty() && fImage.size() == fShownSize))
 		return;
+	fShownSize = fImage.size();
 	fNative->Show(fImage, std::exchange(fPainted, QRegion()));
 }
 

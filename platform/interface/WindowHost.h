@@ -115,6 +115,7 @@ private:
 	QImage fImage;
 	QRegion fPending;
 	QRegion fPainted;
+	QSize fShownSize;
 	int32 fUpdatesDisabled = 0;
 	bool fIsPainting = false;
 	bool fWakePosted = false;

@@ -318,8 +318,8 @@ WindowHost::_RemoveShortcut(uint32 key, uint32 modifiers)
 }
 
 
-// Leads from the view that the keyboard can reach, and that has the focus or holds the view that has
-// it, to the next one or the one before, around the ends. False if the focus is elsewhere.
+// Leads from the view that the keyboard can reach, and that has the focus or holds the view that
+// has it, to the next one or the one before, around the ends. False if the focus is elsewhere.
 bool
 WindowHost::_MoveFocus(bool forward)
 {

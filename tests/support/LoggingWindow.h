@@ -142,7 +142,9 @@ public:
 	void MessageReceived(BMessage* message) override
 	{
 		fLog.Keep(*message);
-		BWindow::MessageReceived(message);
+		// The base complains about dropped messages that nobody wants.
+		if (!message->WasDropped())
+			BWindow::MessageReceived(message);
 	}
 
 	void FrameMoved(BPoint where) override

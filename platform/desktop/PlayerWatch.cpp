@@ -1,12 +1,12 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
 #include "platform/desktop/PlayerWatch.h"
 
-#include <sys/pidfd.h>
 #include <unistd.h>
 
 #include <Roster.h>
 
 #include "platform/desktop/Players.h"
+#include "platform/desktop/Processes.h"
 #include "platform/desktop/SessionBus.h"
 #include "platform/desktop/Watching.h"
 #include "platform/screen/DisplayThread.h"
@@ -55,7 +55,7 @@ bool
 PlayerWatch::_Follow(const RunningApp& app)
 {
 	const team_id team = app.identity.team;
-	const int process = pidfd_open(team, 0);
+	const int process = PinProcess(team);
 	if (process < 0)
 		return false;
 	Seen& seen = fSeen[team];

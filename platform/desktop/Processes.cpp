@@ -9,8 +9,8 @@
 #include <signal.h>
 #include <stdlib.h>
 #include <string.h>
-#include <sys/pidfd.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <time.h>
 #include <unistd.h>
 
@@ -163,16 +163,23 @@ TimeSinceBoot()
 }
 
 
+int
+PinProcess(pid_t process)
+{
+	return static_cast<int>(syscall(SYS_pidfd_open, process, 0));
+}
+
+
 bool
 TerminateProcess(pid_t process, const std::function<bool()>& isStillRight)
 {
 	if (process <= 1 || process == getpid())
 		return false;
-	const int pinned = pidfd_open(process, 0);
+	const int pinned = PinProcess(process);
 	if (pinned < 0)
 		return false;
 	const bool asked = IsOwnProcess(process) && isStillRight()
-		&& pidfd_send_signal(pinned, SIGTERM, nullptr, 0) == 0;
+		&& syscall(SYS_pidfd_send_signal, pinned, SIGTERM, nullptr, 0) == 0;
 	close(pinned);
 	return asked;
 }

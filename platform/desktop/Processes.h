@@ -37,6 +37,10 @@ bigtime_t ProcessStart(pid_t process);
 // Microseconds since the machine's start.
 bigtime_t TimeSinceBoot();
 
+// A file for the process, which means no other one later and becomes readable when it ends; -1 if
+// there is none. The caller closes it.
+int PinProcess(pid_t process);
+
 /*!	Asks a process of this user to end, by SIGTERM.
 
 	The check runs after the process is pinned, so that a process that took over the number of an

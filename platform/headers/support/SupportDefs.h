@@ -25,6 +25,7 @@ typedef unsigned char uchar;
 typedef int32 status_t;
 // Microseconds.
 typedef int64 bigtime_t;
+typedef unsigned long addr_t;
 typedef uint32 type_code;
 typedef uint32 perform_code;
 

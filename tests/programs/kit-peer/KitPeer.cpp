@@ -1,0 +1,122 @@
+// Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+// A program built on the kits for the tests of what passes between two of them. It prints what
+// happens to it, a line each, and does what messages ask for.
+#include <stdio.h>
+#include <stdlib.h>
+#include <unistd.h>
+
+#include <Application.h>
+#include <List.h>
+#include <Message.h>
+#include <Messenger.h>
+#include <Roster.h>
+
+
+namespace {
+
+class Peer : public BApplication {
+public:
+	explicit Peer(const char* signature)
+		:
+		BApplication(signature)
+	{
+	}
+
+	void ReadyToRun() override { printf("ready %d\n", getpid()); }
+
+	void ArgvReceived(int32 count, char** words) override
+	{
+		printf("argv");
+		for (int32 i = 1; i < count; i++)
+			printf(" %s", words[i]);
+		printf("\n");
+	}
+
+	void RefsReceived(BMessage* message) override
+	{
+		entry_ref ref;
+		if (message->FindRef("refs", &ref) == B_OK)
+			printf("refs %s\n", ref.name);
+	}
+
+	bool QuitRequested() override
+	{
+		printf("quit requested\n");
+		return true;
+	}
+
+	void MessageReceived(BMessage* message) override
+	{
+		switch (message->what) {
+			case 'text':
+				printf("text %s\n", message->FindString("text"));
+				break;
+			case 'echo':
+			{
+				BMessage reply('ECHO');
+				reply.AddString("text", message->FindString("text"));
+				reply.AddInt32("team", getpid());
+				message->SendReply(&reply);
+				break;
+			}
+			case 'hold':
+				// Never answers, and never lets go of the message.
+				printf("holding\n");
+				DetachCurrentMessage();
+				break;
+			case 'stop':
+				printf("stopping\n");
+				fflush(stdout);
+				pause();
+				break;
+			case 'exit':
+				_exit(3);
+			case 'ask ':
+				_Ask(*message);
+				break;
+			case 'wtch':
+				be_roster->StartWatching(be_app_messenger,
+					B_REQUEST_LAUNCHED | B_REQUEST_QUIT | B_REQUEST_ACTIVATED);
+				message->SendReply(B_REPLY);
+				break;
+			case B_SOME_APP_LAUNCHED:
+				printf("launched %s\n", message->FindString("be:signature"));
+				break;
+			case B_SOME_APP_QUIT:
+				printf("gone %s\n", message->FindString("be:signature"));
+				break;
+			default:
+				BApplication::MessageReceived(message);
+				break;
+		}
+	}
+
+private:
+	// Sends a message to another program, waits for its answer and passes that on.
+	void _Ask(const BMessage& message)
+	{
+		BMessenger target(message.FindString("signature"));
+		BMessage question('echo');
+		question.AddString("text", message.FindString("text"));
+		BMessage answer;
+		const status_t status = target.SendMessage(&question, &answer, 2000000, 2000000);
+		printf("answer %d %s\n", status, answer.GetString("text", "-"));
+	}
+};
+
+} // namespace
+
+
+int
+main(int argc, char** argv)
+{
+	setvbuf(stdout, nullptr, _IOLBF, 0);
+	setenv("QT_QPA_PLATFORM", "offscreen", 0);
+	const char* signature = getenv("PEER_SIGNATURE");
+	if (argc > 1 && signature == nullptr)
+		signature = argv[1];
+	Peer peer(signature != nullptr ? signature : "application/x-vnd.kit-peer");
+	peer.Run();
+	printf("ended\n");
+	return 0;
+}

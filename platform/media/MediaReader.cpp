@@ -27,7 +27,9 @@ namespace hosted {
 namespace {
 
 constexpr std::chrono::seconds kMaxTime(5);
-constexpr uint64_t kMaxBytes = uint64_t(512) << 20;
+// Far more than any file needs. The parser of FLAC ends the process once it has searched half a
+// gigabyte for a frame.
+constexpr uint64_t kMaxBytes = uint64_t(64) << 20;
 constexpr int kBufferSize = 32768;
 
 // Formats that are no audio or video, or only name other files.

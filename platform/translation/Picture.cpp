@@ -17,8 +17,7 @@ namespace hosted {
 
 namespace {
 
-// Called before anything is decoded. Damaged pictures are an everyday thing and not worth a line on
-// the console.
+// Called before anything is decoded. Damaged pictures are an everyday thing and not worth a warning.
 void
 set_up_once()
 {

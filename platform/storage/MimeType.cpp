@@ -107,13 +107,16 @@ BMimeType::GetSupertype(BMimeType* supertype) const
 {
 	if (supertype == nullptr)
 		return B_BAD_VALUE;
+	// The two may be the same object.
+	const std::string type = fType;
+	const status_t status = fStatus;
 	supertype->Unset();
-	if (fStatus != B_OK)
-		return fStatus;
-	const size_t slash = fType.find('/');
+	if (status != B_OK)
+		return status;
+	const size_t slash = type.find('/');
 	if (slash == std::string::npos)
 		return B_BAD_VALUE;
-	return supertype->SetTo(fType.substr(0, slash).c_str());
+	return supertype->SetTo(type.substr(0, slash).c_str());
 }
 
 

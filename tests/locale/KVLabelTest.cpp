@@ -1,0 +1,305 @@
+// Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#include "locale/KVLabel.h"
+
+#include <memory>
+#include <string>
+
+#include <FindDirectory.h>
+#include <gtest/gtest.h>
+
+#include "locale/Labels.h"
+#include "locale/LanguageMemory.h"
+#include "tests/support/Output.h"
+#include "tests/support/TempFolder.h"
+
+
+namespace {
+
+// A catalogue of its own, which is the process's for as long as it lives.
+class KVLabelTest : public testing::Test {
+protected:
+	KVLabelTest()
+		:
+		fCatalogue(new KVLabel("KORU-Haiku"))
+	{
+		KVLabel::labelZgr = fCatalogue.get();
+		fCatalogue->MirrorList(eLabel);
+	}
+
+	std::string Text(int number) { return fCatalogue->getLabel(nullptr, number); }
+
+	// How many labels differ from the built-in ones.
+	int CountChanged()
+	{
+		int count = 0;
+		for (int number = 0; number < kLabelCount; number++)
+			count += Text(number) != eLabel[number] ? 1 : 0;
+		return count;
+	}
+
+	void Load(const std::string& contents, const std::string& name = "KORU-Haiku.deDE")
+	{
+		fCatalogue->LoadLangFile(fFolder.Write(name, contents).c_str());
+	}
+
+	test::TempFolder fFolder;
+	std::unique_ptr<KVLabel> fCatalogue;
+};
+
+} // namespace
+
+
+TEST_F(KVLabelTest, MirroredTableGivesItsTextsAndNothingElse)
+{
+	EXPECT_EQ(Text(0), "Koru");
+	EXPECT_EQ(Text(220), "220");
+	EXPECT_EQ(Text(221), "-nf-");
+	EXPECT_EQ(Text(100000), "-nf-");
+	EXPECT_EQ(fCatalogue->getLabel(nullptr, -1), nullptr);
+	EXPECT_EQ(fCatalogue->mirrorLabel.CountItems(), 221);
+	EXPECT_EQ(fCatalogue->fLastIndex, 220);
+	EXPECT_NE(fCatalogue->getLabel(nullptr, 0), eLabel[0]);
+}
+
+
+TEST(KVLabel, BeforeMirroringThereIsNoText)
+{
+	KVLabel catalogue("Other");
+	EXPECT_EQ(catalogue.getLabel(nullptr, 0), nullptr);
+	EXPECT_STREQ(catalogue.getLabel(nullptr, 1), "-nf-");
+	EXPECT_EQ(catalogue.Setting4App, "Other");
+	EXPECT_EQ(catalogue.fLanguageCode, 0x64654445);
+	EXPECT_EQ(catalogue.quelllist, nullptr);
+}
+
+
+TEST_F(KVLabelTest, EmptyTableGivesNothing)
+{
+	const char* const empty[] = {nullptr};
+	fCatalogue->MirrorList(empty);
+	EXPECT_EQ(fCatalogue->fLastIndex, -1);
+	EXPECT_EQ(Text(0), "-nf-");
+}
+
+
+TEST_F(KVLabelTest, AppendedTableLeavesOneNullTextBehind)
+{
+	const char* const more[] = {"one", "two", nullptr};
+	fCatalogue->AddToMirrorList(more);
+	EXPECT_EQ(Text(221), "one");
+	EXPECT_EQ(Text(222), "two");
+	EXPECT_EQ(fCatalogue->getLabel(nullptr, 223), nullptr);
+	EXPECT_EQ(Text(224), "-nf-");
+	EXPECT_EQ(fCatalogue->quelllist, more);
+}
+
+
+TEST_F(KVLabelTest, FileReplacesItsTextAndStoresItsCode)
+{
+	Load("\"Open folder\"\t\t\"Ordner öffnen\"\n");
+	EXPECT_EQ(Text(177), "Ordner öffnen");
+	EXPECT_EQ(CountChanged(), 1);
+	EXPECT_EQ(fCatalogue->fReplaced, 1);
+	EXPECT_STREQ(fCatalogue->GetLastLanguage(), "deDE");
+	EXPECT_STREQ(AskStrSetting("", "none", false), "deDE");
+}
+
+
+TEST_F(KVLabelTest, TranslationThatHoldsAnotherTextOfTheSameLengthReplacesThatToo)
+{
+	Load("\"Quit\"\t\t\"No Edit\"\n");
+	EXPECT_EQ(Text(7), "No Edit");
+	EXPECT_EQ(Text(6), "No Edit");
+}
+
+
+TEST_F(KVLabelTest, SecondLineMatchesTheTextAsItIsNow)
+{
+	Load("\"Close\"\t\"Zu\"\n\"Close\"\t\"Ende\"\n\"Zu\"\t\"Schluss\"\n");
+	EXPECT_EQ(Text(173), "Schluss");
+	EXPECT_EQ(fCatalogue->fReplaced, 2);
+}
+
+
+TEST_F(KVLabelTest, LabelsThatShareATextAreAllReplaced)
+{
+	Load("\"Prefered Audio-Application : \"\t\"Spieler\"\n");
+	EXPECT_EQ(Text(200), "Spieler");
+	EXPECT_EQ(Text(212), "Spieler");
+}
+
+
+TEST_F(KVLabelTest, CommentsAndBrokenLinesChangeNothing)
+{
+	Load("# \"Edit\"\t\"x\"\n \"Edit\"\t\"x\"\n\"Edit\"\n\"Edit\n\"\n\"\n\"Edit\"x\n\n");
+	EXPECT_EQ(CountChanged(), 0);
+}
+
+
+TEST_F(KVLabelTest, WhatFollowsTheFourthQuoteIsIgnored)
+{
+	Load("\"Edit\"\t\"Bearbeiten\" \"more\" \n");
+	EXPECT_EQ(Text(6), "Bearbeiten");
+}
+
+
+TEST_F(KVLabelTest, LastLineWithoutEndLosesACharacter)
+{
+	Load("\"Edit\"\t\"Bearbeiten\"");
+	EXPECT_EQ(Text(6), "Bearbeiten");
+	Load("\"Quit\"\t\"Beenden");
+	EXPECT_EQ(Text(7), "Beende");
+}
+
+
+TEST_F(KVLabelTest, OverlongLineIsSplit)
+{
+	const std::string translation(300, 'x');
+	Load("\"Edit\"\t\"" + translation + "\"\n\"Quit\"\t\"Ende\"\n");
+	// 254 characters are read, the last of them is cut like a line end.
+	EXPECT_EQ(Text(6), translation.substr(0, 254 - 8 - 1));
+	EXPECT_EQ(Text(7), "Ende");
+}
+
+
+TEST_F(KVLabelTest, MissingFileStoresThatThereIsNone)
+{
+	fCatalogue->lastLanguage = "frFR";
+	const std::string output
+		= test::OutputOf([this] { fCatalogue->LoadLangFile((fFolder / "none.deDE").c_str()); });
+	EXPECT_NE(output.find(" 0 Bytes | ..oops cant open - reset\n"), std::string::npos) << output;
+	EXPECT_EQ(CountChanged(), 0);
+	EXPECT_STREQ(AskStrSetting("", "none", false), "_non");
+	EXPECT_STREQ(fCatalogue->GetLastLanguage(), "frFR");
+}
+
+
+TEST_F(KVLabelTest, EmptyFileStoresNothing)
+{
+	AskStrSetting("KORU-Haiku", "svSE", true);
+	Load("", "KORU-Haiku.frFR");
+	EXPECT_EQ(CountChanged(), 0);
+	EXPECT_STREQ(AskStrSetting("", "none", false), "svSE");
+}
+
+
+TEST_F(KVLabelTest, LoadingPrintsWhatItDoes)
+{
+	const std::string path = fFolder.Write("KORU-Haiku.deDE", "\"Edit\"\t\"Bearbeiten\"\n");
+	const std::string output
+		= test::OutputOf([this, &path] { fCatalogue->LoadLangFile(path.c_str()); });
+	EXPECT_EQ(output.find("KVLabel::LoadLangFile\n -'" + path
+				  + "'-\n 20 Bytes |  ..(replaced: 1 )..done\n\n\nmod: "),
+		0u)
+		<< output;
+}
+
+
+TEST_F(KVLabelTest, ReportListsWhatIsUntranslated)
+{
+	Load("\"Edit\"\t\"Bearbeiten\"\n");
+	const std::string output = test::OutputOf([this] { fCatalogue->ExpMissingStr(); });
+	EXPECT_EQ(output, "\n - ExpMissingStr -\n - 0 not translated - \n");
+
+	BPath home;
+	find_directory(B_USER_DIRECTORY, &home);
+	const std::string report
+		= test::ReadFile(std::string(home.Path()) + "/KORU-Haiku_deDE_Missing.txt");
+	EXPECT_EQ(report.find("# - - - missing in: \n# - - - '" + (fFolder / "KORU-Haiku.deDE")
+				  + "'\n# - - - not translated Labels: \n\"Koru\"\t\t\"Koru\"\n"),
+		0u)
+		<< report;
+	EXPECT_NE(report.find("\"Open folder\"\t\t\"Open folder\"\n"), std::string::npos);
+	EXPECT_EQ(report.find("Edit\"\t"), std::string::npos);
+}
+
+
+TEST_F(KVLabelTest, ReportStopsWhereATableEnds)
+{
+	const char* const longer[] = {"a", "b", "c", nullptr};
+	fCatalogue->MirrorList(longer);
+	const char* const shorter[] = {"a", nullptr};
+	fCatalogue->quelllist = shorter;
+	fCatalogue->lastLanguage = "xxXX";
+	fCatalogue->ExpMissingStr();
+	BPath home;
+	find_directory(B_USER_DIRECTORY, &home);
+	const std::string report
+		= test::ReadFile(std::string(home.Path()) + "/KORU-Haiku_xxXX_Missing.txt");
+	EXPECT_NE(report.find("Labels: \n\"a\"\t\t\"a\"\n\nBREAK: Q-POINTER IS NULL\n"),
+		std::string::npos)
+		<< report;
+}
+
+
+TEST_F(KVLabelTest, ReportWithoutASourceListsAll)
+{
+	fCatalogue->quelllist = nullptr;
+	fCatalogue->lastLanguage = "yyYY";
+	fCatalogue->ExpMissingStr();
+	BPath home;
+	find_directory(B_USER_DIRECTORY, &home);
+	const std::string report
+		= test::ReadFile(std::string(home.Path()) + "/KORU-Haiku_yyYY_Missing.txt");
+	EXPECT_NE(report.find("\n# - - - all direct Labels: \n\"Koru\"\n\" Name: \"\n"),
+		std::string::npos);
+}
+
+
+TEST_F(KVLabelTest, PrintToStreamShowsTheState)
+{
+	fCatalogue->lastLanguage = "deDE";
+	fCatalogue->altLangFile.SetTo("/tmp/x.deDE");
+	const std::string output = test::OutputOf([this] { fCatalogue->PrintToStream(); });
+	EXPECT_EQ(output.find("\n- - - - -\nlastLanguage: 'deDE'\n Setting4App: 'KORU-Haiku'\n"
+						  " altLangFile: '/tmp/x.deDE'\n"
+						  " mirrorLabel:  221 Items \t(replaced:0)\n quelllist= 0x"),
+		0u)
+		<< output;
+}
+
+
+TEST_F(KVLabelTest, ListLabelPrintsATable)
+{
+	const char* const table[] = {"a", "b", nullptr};
+	EXPECT_EQ(test::OutputOf([&] { fCatalogue->listLabel(table); }), "[a][b]\n");
+}
+
+
+TEST_F(KVLabelTest, DeleteMeEndsTheProcessCatalogue)
+{
+	const std::string output = test::OutputOf([this] { fCatalogue.release()->DeleteMe(); });
+	EXPECT_EQ(output, "DESTROY-KVLabel done\nDESTROY-KVLabel::DeleteMe done\n");
+	EXPECT_EQ(KVLabel::labelZgr, nullptr);
+}
+
+
+TEST(GetLabel, MakesTheCatalogueOnFirstUse)
+{
+	ASSERT_EQ(KVLabel::labelZgr, nullptr);
+	EXPECT_STREQ(getLabel(5), "-nf-");
+	ASSERT_NE(KVLabel::labelZgr, nullptr);
+	EXPECT_EQ(KVLabel::labelZgr->Setting4App, "KORU-Haiku");
+	KVLabel::labelZgr->MirrorList(eLabel);
+	EXPECT_STREQ(getLabel(47), "using:");
+	KVLabel::labelZgr->DeleteMe();
+}
+
+
+TEST(LabelTable, HoldsTheKnownTexts)
+{
+	EXPECT_EQ(eLabel[kLabelCount], nullptr);
+	EXPECT_STREQ(eLabel[6], "Edit");
+	EXPECT_STREQ(eLabel[19], "19");
+	EXPECT_STREQ(eLabel[49], "-?-");
+	EXPECT_STREQ(eLabel[100], "-?\?\?-");
+	EXPECT_STREQ(eLabel[127], "Thanks, press button on your remote to reassign..\n");
+	EXPECT_STREQ(eLabel[151], "151");
+	EXPECT_STREQ(eLabel[178], "Allways in List:");
+	EXPECT_STREQ(eLabel[179], "not avalible..");
+	EXPECT_STREQ(eLabel[204], "204");
+	EXPECT_STREQ(eLabel[206], "BoxSize: ");
+	EXPECT_STREQ(eLabel[213], " -none-");
+	for (int number = 0; number < kLabelCount; number++)
+		EXPECT_NE(eLabel[number], nullptr) << number;
+}

@@ -1,0 +1,213 @@
+// Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#include "locale/KVLangMenu.h"
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+
+#include <MenuItem.h>
+#include <Message.h>
+#include <Path.h>
+#include <Roster.h>
+#include <gtest/gtest.h>
+
+#include "locale/KVLabel.h"
+#include "locale/Labels.h"
+#include "locale/LanguageMemory.h"
+#include "locale/LanguageMessages.h"
+#include "tests/support/Application.h"
+#include "tests/support/Output.h"
+
+
+namespace {
+
+// Language files beside the test program, and no catalogue before and after.
+class KVLangMenuTest : public testing::Test {
+protected:
+	void SetUp() override
+	{
+		app_info info;
+		ASSERT_EQ(test::TheApplication().GetAppInfo(&info), B_OK);
+		fProgramFolder = std::filesystem::path(BPath(&info.ref).Path()).parent_path();
+		Clear();
+		AskStrSetting("KORU-Haiku", "LAST", true);
+	}
+
+	void TearDown() override { Clear(); }
+
+	void Clear()
+	{
+		std::filesystem::remove_all(fProgramFolder / "Dictionaries");
+		std::filesystem::remove_all(fProgramFolder / "Language");
+		delete KVLabel::labelZgr;
+	}
+
+	std::string Write(const std::string& name, const std::string& contents,
+		const std::string& folder = "Dictionaries")
+	{
+		const std::filesystem::path path = fProgramFolder / folder / name;
+		std::filesystem::create_directories(path.parent_path());
+		std::ofstream(path) << contents;
+		return path;
+	}
+
+	std::filesystem::path fProgramFolder;
+};
+
+
+BMessage
+choice(const KVLangMenu& menu, int32 index)
+{
+	return *menu.ItemAt(index)->Message();
+}
+
+} // namespace
+
+
+TEST_F(KVLangMenuTest, OffersTheFilesAndMarksTheLastLanguage)
+{
+	Write("KORU-Haiku.deDE", "x");
+	const std::string french = Write("KORU-Haiku.frFR", "x");
+	AskStrSetting("KORU-Haiku", "frFR", true);
+	const KVLangMenu menu("Language", "KORU-Haiku");
+	ASSERT_EQ(menu.CountItems(), 4);
+	EXPECT_STREQ(menu.ItemAt(0)->Label(), "Deutsch");
+	EXPECT_STREQ(menu.ItemAt(1)->Label(), "Français");
+	EXPECT_STREQ(menu.ItemAt(3)->Label(), "-default");
+	EXPECT_FALSE(menu.ItemAt(0)->IsMarked());
+	EXPECT_TRUE(menu.ItemAt(1)->IsMarked());
+	EXPECT_FALSE(menu.ItemAt(3)->IsMarked());
+	EXPECT_EQ(menu.fSelected, 1);
+	EXPECT_EQ(menu.fItemCount, 4);
+	EXPECT_STREQ(menu.fLanguageFilePath.String(), french.c_str());
+
+	EXPECT_EQ(choice(menu, 1).what, kMsgLanguageChanged);
+	EXPECT_EQ(choice(menu, 1).GetInt32("_MenuItem", -1), 1);
+	EXPECT_STREQ(choice(menu, 1).GetString("_LangFilePath"), french.c_str());
+	EXPECT_EQ(choice(menu, 3).GetInt32("_MenuItem", -1), 3);
+	EXPECT_STREQ(choice(menu, 3).GetString("_LangFilePath"), "_none");
+}
+
+
+TEST_F(KVLangMenuTest, NameCountsWithoutRegardToCase)
+{
+	Write("koru-haiku.ruRU", "x");
+	Write("Notes.deDE", "x");
+	const KVLangMenu menu("Language", "KORU-Haiku");
+	ASSERT_EQ(menu.CountItems(), 3);
+	EXPECT_STREQ(menu.ItemAt(0)->Label(), "Russian");
+	// Nothing was ever chosen.
+	EXPECT_TRUE(menu.ItemAt(2)->IsMarked());
+	EXPECT_EQ(menu.fSelected, -1);
+	EXPECT_EQ(menu.fLanguageFilePath, "");
+}
+
+
+TEST_F(KVLangMenuTest, UnknownCodeIsShownAsItsFileName)
+{
+	Write("KORU-Haiku.xxXX", "x");
+	const KVLangMenu menu("Language", "KORU-Haiku");
+	ASSERT_EQ(menu.CountItems(), 3);
+	EXPECT_STREQ(menu.ItemAt(0)->Label(), "KORU-Haiku.xxXX");
+}
+
+
+TEST_F(KVLangMenuTest, WithoutAFolderTheMenuIsEmpty)
+{
+	std::unique_ptr<KVLangMenu> menu;
+	const std::string output = test::OutputOf(
+		[&menu] { menu = std::make_unique<KVLangMenu>("Language", "KORU-Haiku"); });
+	EXPECT_EQ(menu->CountItems(), 0);
+	EXPECT_NE(output.find("KVLangMenu::ScanFolder()\nKVLangMenu: '"
+				  + (fProgramFolder / "Dictionaries").string() + "'\noops: "),
+		std::string::npos);
+	EXPECT_NE(output.find("Language/Dictionaries'\noops: "), std::string::npos);
+	EXPECT_NE(output.find(" back 0 \n"), std::string::npos);
+}
+
+
+TEST_F(KVLangMenuTest, SecondFolderServesIfThereIsNoFirst)
+{
+	Write("KORU-Haiku.itIT", "x", "Language/Dictionaries");
+	const KVLangMenu menu("Language", "KORU-Haiku");
+	ASSERT_EQ(menu.CountItems(), 3);
+	EXPECT_STREQ(menu.ItemAt(0)->Label(), "Italian");
+}
+
+
+TEST_F(KVLangMenuTest, EmptyFilesAndFoldersAreLeftOut)
+{
+	Write("KORU-Haiku.deDE", "");
+	Write("KORU-Haiku.frFR/inner", "x");
+	Write("KORU-Haiku.plPL", "x");
+	const KVLangMenu menu("Language", "KORU-Haiku");
+	ASSERT_EQ(menu.CountItems(), 3);
+	EXPECT_STREQ(menu.ItemAt(0)->Label(), "Polish");
+	EXPECT_EQ(choice(menu, 0).GetInt32("_MenuItem", -1), 0);
+}
+
+
+TEST_F(KVLangMenuTest, NamesOfAllCodes)
+{
+	KVLangMenu menu("Language", "KORU-Haiku");
+	char name[B_FILE_NAME_LENGTH];
+	menu.GetNameFor("KORU-Haiku.jaJP", name);
+	EXPECT_STREQ(name, "日本語");
+	menu.GetNameFor("KORU-Haiku.trTR", name);
+	EXPECT_STREQ(name, "Tuerkç");
+	menu.GetNameFor("KORU-Haiku.nlBE.frFR", name);
+	EXPECT_STREQ(name, "Belgisch");
+	menu.GetNameFor(".deDE", name);
+	EXPECT_STREQ(name, ".deDE");
+	EXPECT_EQ(test::OutputOf([&menu] { menu.GetNameFor("x", nullptr); }), " oops no INTO-ADR \n");
+}
+
+
+TEST_F(KVLangMenuTest, ChosenLanguageIsLoadedAndMarked)
+{
+	Write("KORU-Haiku.deDE", "\"Edit\"\t\"Bearbeiten\"\n");
+	Write("KORU-Haiku.frFR", "\"Edit\"\t\"Modifier\"\n");
+	KVLangMenu menu("Language", "KORU-Haiku");
+	menu.MirrorThisList(eLabel);
+
+	BMessage message = choice(menu, 1);
+	menu.SetLangFile(&message);
+	EXPECT_STREQ(getLabel(6), "Modifier");
+	EXPECT_TRUE(menu.ItemAt(1)->IsMarked());
+	EXPECT_FALSE(menu.ItemAt(3)->IsMarked());
+	EXPECT_STREQ(AskStrSetting("", "none", false), "frFR");
+
+	menu.MirrorThisList(eLabel);
+	message = choice(menu, 3);
+	menu.SetLangFile(&message);
+	EXPECT_STREQ(getLabel(6), "Edit");
+	EXPECT_FALSE(menu.ItemAt(1)->IsMarked());
+	EXPECT_TRUE(menu.ItemAt(3)->IsMarked());
+	EXPECT_STREQ(AskStrSetting("", "none", false), "_non");
+}
+
+
+TEST_F(KVLangMenuTest, IncompleteMessagesAreReported)
+{
+	KVLangMenu menu("Language", "KORU-Haiku");
+	BMessage message(kMsgLanguageChanged);
+	const std::string output = test::OutputOf([&] { menu.SetLangFile(&message); });
+	EXPECT_NE(output.find("KVLangMenu::SetLangFile: _LangFilePath nf.\n"), std::string::npos);
+	EXPECT_NE(output.find("KVLangMenu::SetLangFile: _MenuItem nf.\n"), std::string::npos);
+}
+
+
+TEST_F(KVLangMenuTest, WithoutACatalogueItSaysSo)
+{
+	KVLangMenu menu("Language", "KORU-Haiku");
+	menu.fCatalogue = nullptr;
+	const std::string output = test::OutputOf([&menu] {
+		menu.MirrorThisList(eLabel);
+		menu.MirrorAddThisList(eLabel);
+		menu.LoadLangFile("x");
+	});
+	EXPECT_EQ(output,
+		" KVLabel-Class not installed \n KVLabel-Class not installed \n"
+		" KVLabel-Class not installed \n");
+}

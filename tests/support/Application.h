@@ -1,0 +1,38 @@
+// Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#ifndef TEST_APPLICATION_H
+#define TEST_APPLICATION_H
+
+#include <mutex>
+#include <vector>
+
+#include <Application.h>
+#include <Message.h>
+
+
+namespace test {
+
+/*!	The one application object of a test process, running in a thread of its own. It keeps what it
+	is told.
+*/
+class Application : public BApplication {
+public:
+	Application();
+
+	void MessageReceived(BMessage* message) override;
+
+	int32 CountReceived(uint32 what);
+	// The last message of that code; an empty one if there is none.
+	BMessage LastReceived(uint32 what);
+	void ForgetReceived();
+
+private:
+	std::mutex fLock;
+	std::vector<BMessage> fReceived;
+};
+
+// Made with the first call, gone before the display thread stops.
+Application& TheApplication();
+
+} // namespace test
+
+#endif // TEST_APPLICATION_H

@@ -1,0 +1,196 @@
+// Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#include <unistd.h>
+
+#include <List.h>
+
+#include "listview/MxView.h"
+#include "settings/Prefs.h"
+#include "tests/support/Popups.h"
+#include "tests/window/MediaWindowFixture.h"
+#include "window/BitmapPath.h"
+#include "window/MediaFileOps.h"
+#include "window/MediaWindow.h"
+
+
+namespace {
+
+// An album of three titles beside the two of the list, which lie in a folder of their own.
+class AlbumFolder : public MediaWindowFixture {
+protected:
+	AlbumFolder()
+	{
+		for (const char* name : {"a.mp3", "b.mp3", "c.mp3"})
+			fTitles.push_back(MakeTitle(std::string("album/") + name));
+		WritePlaylist({MakeTitle("own/1.mp3"), MakeTitle("own/2.mp3")});
+	}
+
+	// The album's number among the folders.
+	int32 AddAlbum(const std::string& folder)
+	{
+		Window().fFolderList->AddItem(new BitmapPath(folder.c_str()));
+		return Window().fFolderList->CountItems() - 1;
+	}
+
+	std::string ShowAlbum() { return Do(MF_FOLDER, "", AddAlbum(fFolder / "album")); }
+	Paths Shown() { return PathsOf(Window().axflist); }
+	Prefs& Settings() { return *Prefs::getSTPrefs(); }
+
+	Paths fTitles;
+};
+
+
+bool
+contains(const std::string& text, const std::string& part)
+{
+	return text.find(part) != std::string::npos;
+}
+
+} // namespace
+
+
+TEST_F(AlbumFolder, TitlesWithoutNumbersStayInTheFoldersOrder)
+{
+	Window();
+	Settings().last_top_media = 1;
+	const std::string output = ShowAlbum();
+	EXPECT_EQ(Shown(), fTitles);
+	EXPECT_TRUE(contains(output, "now axflist has 3 Items\nlook for TrackNr info...\n"));
+	EXPECT_TRUE(contains(output, "## break, found no TrackNr or <= 0 !\n" + fTitles[2] + "\n"));
+	EXPECT_TRUE(contains(output, " axflist:\n  0 + " + fTitles[0] + "\n"));
+	EXPECT_TRUE(Window().fFolderShown);
+	EXPECT_TRUE(MxView::SingleAlbum);
+	EXPECT_EQ(MxView::MedList, Window().axflist);
+	EXPECT_EQ(Settings().last_top_media_buf, 1);
+	EXPECT_EQ(Settings().last_top_media, 0);
+	EXPECT_EQ(Window().fListView->imageIndex, 1);
+	EXPECT_EQ(Window().fListView->CountChildren(), 3);
+}
+
+
+TEST_F(AlbumFolder, TitlesAreOrderedByTheirNumbers)
+{
+	SetTrack(fTitles[0], 3);
+	SetTrack(fTitles[1], 1);
+	SetTrack(fTitles[2], 2);
+	const std::string output = ShowAlbum();
+	EXPECT_EQ(Shown(), (Paths{fTitles[1], fTitles[2], fTitles[0]}));
+	EXPECT_TRUE(contains(output, "   0| Nr:  1 = " + fTitles[1] + "\n"));
+}
+
+
+TEST_F(AlbumFolder, OneTitleWithoutNumberLeavesTheFoldersOrder)
+{
+	SetTrack(fTitles[0], 3);
+	SetTrack(fTitles[2], 1);
+	ShowAlbum();
+	EXPECT_EQ(Shown(), fTitles);
+}
+
+
+TEST_F(AlbumFolder, EqualNumbersKeepTheOrderOfTheWalk)
+{
+	SetTrack(fTitles[0], 2);
+	SetTrack(fTitles[1], 2);
+	SetTrack(fTitles[2], 1);
+	ShowAlbum();
+	// The walk goes from the last title to the first.
+	EXPECT_EQ(Shown(), (Paths{fTitles[2], fTitles[1], fTitles[0]}));
+}
+
+
+TEST_F(AlbumFolder, OnlyMediaFilesAreTaken)
+{
+	const std::string text = MakeTitle("album/notes.txt", "text/plain");
+	const std::string video = MakeTitle("album/z.mp4", "video/mp4");
+	MakeTitle("album/more/d.mp3");
+	const std::string output = ShowAlbum();
+	EXPECT_EQ(Shown(), (Paths{fTitles[0], fTitles[1], fTitles[2], video}));
+	EXPECT_TRUE(contains(output, " -> BAD (" + text + ")\n"));
+}
+
+
+TEST_F(AlbumFolder, FolderWithoutTitlesIsOpenedInstead)
+{
+	const std::string folder = fFolder.MakeFolder("empty");
+	Window();
+	Settings().last_top_media = 1;
+	const std::string output = Do(MF_FOLDER, "", AddAlbum(folder));
+	EXPECT_TRUE(contains(output, "no items, open Folder please!\n"));
+	EXPECT_EQ(Opened(1), folder + "\n");
+	EXPECT_FALSE(Window().fFolderShown);
+	EXPECT_EQ(MxView::MedList, Window().mflist);
+	EXPECT_EQ(Settings().last_top_media, 1);
+	EXPECT_EQ(Window().fListView->imageIndex, 1);
+}
+
+
+TEST_F(AlbumFolder, VanishedFolderIsTold)
+{
+	const std::string folder = fFolder.MakeFolder("vanishing");
+	const int32 number = AddAlbum(folder);
+	rmdir(folder.c_str());
+	const std::string output = Do(MF_FOLDER, "", number);
+	EXPECT_TRUE(contains(output, " InitCheck()\n"));
+	EXPECT_TRUE(Window().fListView->pathTrouble);
+	ASSERT_TRUE(test::WaitForDialog());
+	while (test::WaitForDialog() && test::ClickDialogButton("OK") && !test::WaitForNoDialog())
+		continue;
+	EXPECT_FALSE(Window().fFolderShown);
+}
+
+
+TEST_F(AlbumFolder, LeavingRestoresTheList)
+{
+	Window();
+	Settings().last_top_media = 1;
+	ShowAlbum();
+	Settings().playingImage = 0;
+	const std::string output = Do(MF_FOLDER, "", 999);
+	EXPECT_TRUE(contains(output, "no valid folder...  back to the default-List\n"));
+	EXPECT_FALSE(Window().fFolderShown);
+	EXPECT_FALSE(MxView::SingleAlbum);
+	EXPECT_EQ(MxView::MedList, Window().mflist);
+	EXPECT_EQ(Settings().last_top_media, 1);
+	EXPECT_EQ(Window().fListView->imageIndex, 0);
+	EXPECT_EQ(Window().fListView->CountChildren(), 2);
+}
+
+
+TEST_F(AlbumFolder, LeavingTheListItselfResetsThePosition)
+{
+	Window();
+	Settings().last_top_media = 1;
+	Settings().last_top_media_buf = 0;
+	Do(MF_FOLDER, "", 999);
+	EXPECT_EQ(Settings().last_top_media, 0);
+}
+
+
+TEST_F(AlbumFolder, TakenTitleJoinsTheList)
+{
+	ShowAlbum();
+	Do(MF_TAKE, "", 1);
+	EXPECT_EQ(PathsOf(Window().mflist).back(), fTitles[1]);
+	EXPECT_EQ(Window().mflist->CountItems(), 3);
+	EXPECT_FALSE(Window().fFolderShown);
+	EXPECT_TRUE(Window().fListChanged);
+}
+
+
+TEST_F(AlbumFolder, NothingIsTakenWithoutAFolderOrATitle)
+{
+	Window();
+	EXPECT_EQ(Do(MF_TAKE, "", 0), "DoWithMediaFiles [14 proc]\t");
+	ShowAlbum();
+	EXPECT_EQ(Do(MF_TAKE, "", 3), "DoWithMediaFiles [14 proc]\t");
+	EXPECT_EQ(Window().mflist->CountItems(), 2);
+	EXPECT_TRUE(Window().fFolderShown);
+}
+
+
+TEST_F(AlbumFolder, OpenFolderMeansTheAlbumsTitle)
+{
+	ShowAlbum();
+	Do(MF_OFOLD, "", 2);
+	EXPECT_EQ(Opened(1), (fFolder / "album") + "\n");
+}

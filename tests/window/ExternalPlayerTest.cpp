@@ -1,0 +1,191 @@
+// Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#include "window/ExternalPlayer.h"
+
+#include <stdlib.h>
+#include <string.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "settings/Locations.h"
+#include "settings/Prefs.h"
+#include "tests/support/Output.h"
+#include "tests/support/Popups.h"
+#include "tests/window/MediaWindowFixture.h"
+
+
+namespace {
+
+class ExternalPlayer : public MediaWindowFixture {
+protected:
+	std::string Open(const std::string& path, bool alert = false)
+	{
+		return test::OutputOf([&] { IOpenThisFile(path.c_str(), alert); });
+	}
+
+	void Prefer(const std::string& player)
+	{
+		Prefs* const prefs = Prefs::getSTPrefs();
+		snprintf(prefs->pref_AudioApp, sizeof(prefs->pref_AudioApp), "%s", player.c_str());
+	}
+
+	// A player that notes what it is given, marked as its own.
+	std::string MakePlayer(const std::string& name)
+	{
+		const std::string path = fFolder.Write("tools/" + name,
+			"#!/bin/sh\necho \"player $*\" >> '" + (fFolder / "opened") + "'\n");
+		chmod(path.c_str(), 0755);
+		return path;
+	}
+
+	std::string Command(const std::string& begin, const std::string& path)
+	{
+		return "[open][" + begin + "'" + path + "' &]\n";
+	}
+};
+
+
+bool
+contains(const std::string& text, const std::string& part)
+{
+	return text.find(part) != std::string::npos;
+}
+
+
+const std::string kManager = std::string(kFileManager) + " ";
+
+} // namespace
+
+
+TEST_F(ExternalPlayer, AudioWithoutAPreferredPlayerGoesToTheFileManager)
+{
+	Prefs::getSTPrefs();
+	const std::string title = MakeTitle("a title.mp3");
+	const std::string output = Open(title);
+	EXPECT_EQ(output,
+		" Mime: at. audio/mpeg \n ..no User-Prefered-Audio-App \n" + Command(kManager, title));
+	EXPECT_EQ(Opened(1), title + "\n");
+}
+
+
+TEST_F(ExternalPlayer, NoneOfTheMenuIsNoPlayer)
+{
+	Prefer(" -none-");
+	EXPECT_TRUE(contains(Open(MakeTitle("a.mp3")), " ..no User-Prefered-Audio-App \n"));
+	Prefer("1234567890");
+	EXPECT_TRUE(contains(Open(MakeTitle("a.mp3")), " ..no User-Prefered-Audio-App \n"));
+}
+
+
+TEST_F(ExternalPlayer, AudioGoesToThePreferredPlayerAfterTheRunningOneWasClosed)
+{
+	const std::string player = MakePlayer("player");
+	Prefer(player);
+	const std::string title = MakeTitle("a.mp3");
+	const std::string output = Open(title);
+	const size_t begin = output.find("evnt. Audio mit: '" + player
+		+ "' starten\nMediaPlayer? : -1\n - will stop any Audio-App \ncount roster teams: ");
+	EXPECT_NE(begin, std::string::npos) << output;
+	EXPECT_TRUE(
+		contains(output, "stop end\nwait close.. reopen app\n" + Command(player + " ", title)));
+	EXPECT_EQ(Opened(1), "player " + title + "\n");
+}
+
+
+TEST_F(ExternalPlayer, PlayerWhoseNameBeginsWithMediaPlayerStaysOpen)
+{
+	MakePlayer("MediaPlayerX");
+	Prefer("MediaPlayerX");
+	const std::string title = MakeTitle("a.mp3");
+	const std::string output = Open(title);
+	EXPECT_TRUE(contains(output, "MediaPlayer? : 0\n" + Command("MediaPlayerX ", title)));
+	EXPECT_FALSE(contains(output, "will stop any"));
+	EXPECT_EQ(Opened(1), "player " + title + "\n");
+}
+
+
+TEST_F(ExternalPlayer, VideoAndFoldersGoToTheFileManager)
+{
+	Prefer(MakePlayer("player"));
+	const std::string video = MakeTitle("a.mp4", "video/mp4");
+	EXPECT_EQ(Open(video), " Mime: at. video/mp4 \n" + Command(kManager, video));
+	const std::string folder = fFolder.MakeFolder("album");
+	EXPECT_TRUE(contains(Open(folder), Command(kManager, folder)));
+	EXPECT_EQ(Opened(2), video + "\n" + folder + "\n");
+}
+
+
+TEST_F(ExternalPlayer, ProgramIsRunItself)
+{
+	const std::string program = MakePlayer("program");
+	const std::string path = MakeTitle("run", "application/x-vnd.Be-elfexecutable");
+	ASSERT_EQ(rename(program.c_str(), (path + "2").c_str()), 0);
+	const std::string output = Open(path);
+	EXPECT_TRUE(contains(output, Command("", path)));
+}
+
+
+TEST_F(ExternalPlayer, FileWithoutATypeGoesToTheFallbackPlayer)
+{
+	const std::string path = fFolder.Write("unknown.zzzz", std::string("\0\1\2\3\xff", 5));
+	const std::string output = Open(path);
+	if (contains(output, " Mime: at.  \n")) {
+		EXPECT_TRUE(contains(output,
+			" ..oops hat keinerlei Filetype - also Mediaplayer..\n"
+				+ Command(std::string(kFallbackPlayer) + " ", path)));
+	} else {
+		EXPECT_TRUE(contains(output, Command(kManager, path)));
+	}
+}
+
+
+TEST_F(ExternalPlayer, MissingFileIsPrintedAndTold)
+{
+	const std::string path = fFolder / "missing.mp3";
+	const std::string text = path + "\n ..File not found :(";
+	const std::string output = Open(path);
+	EXPECT_EQ(output, "[open][" + text + "]\n oops: couldn't execute :\n" + text + "\n");
+
+	Open(path, true);
+	ASSERT_TRUE(test::WaitForDialog());
+	EXPECT_EQ(test::DialogText(), text);
+	EXPECT_TRUE(test::ClickDialogButton("OK"));
+	EXPECT_TRUE(test::WaitForNoDialog());
+}
+
+
+TEST_F(ExternalPlayer, NothingOfAFileNameReachesTheShell)
+{
+	const std::string mark = fFolder / "hurt";
+	const std::string names[]
+		= {"x'; touch hurt; 'y.mp3", "'$(touch hurt)'.mp3", "`touch hurt`'", "x';touch hurt #.mp3"};
+	ASSERT_EQ(chdir(fFolder.Path().c_str()), 0);
+	for (const std::string& name : names) {
+		const std::string output = Open(MakeTitle(name));
+		EXPECT_TRUE(contains(output, " oops: couldn't execute :\n")) << output;
+	}
+	// Missing files, whose text is no command at all.
+	for (const char* name : {"a;touch hurt", "a|touch hurt", "a`touch hurt`", "$(touch hurt)",
+			 "a&touch hurt", "a\ntouch hurt", "a>hurt", "a b", "*", "a\"b", "(touch hurt)"}) {
+		const std::string output = Open(fFolder / name);
+		EXPECT_TRUE(contains(output, " oops: couldn't execute :\n")) << output;
+	}
+	EXPECT_NE(access(mark.c_str(), F_OK), 0);
+	ASSERT_EQ(chdir("/"), 0);
+}
+
+
+TEST_F(ExternalPlayer, QuotedNamesArriveAsTheyAre)
+{
+	const std::string title = MakeTitle("$HOME `x` \"y\" \\ *;&|<>().mp4", "video/mp4");
+	Open(title);
+	EXPECT_EQ(Opened(1), title + "\n");
+}
+
+
+TEST_F(ExternalPlayer, ClosingWithoutAPlayerSendsNothing)
+{
+	const std::string output = test::OutputOf([] { ICloseMediaApp(); });
+	EXPECT_EQ(output.find(" - will stop any Audio-App \ncount roster teams: "), 0u);
+	EXPECT_TRUE(contains(output, "\nstop end\n"));
+	EXPECT_FALSE(contains(output, "STOP"));
+}

@@ -1,0 +1,198 @@
+// Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#include <unistd.h>
+
+#include <List.h>
+#include <Node.h>
+#include <TypeConstants.h>
+
+#include "listview/MxView.h"
+#include "settings/Prefs.h"
+#include "tests/support/Output.h"
+#include "tests/window/MediaWindowFixture.h"
+#include "window/BitmapPath.h"
+#include "window/MediaFileOps.h"
+#include "window/MediaWindow.h"
+
+
+namespace {
+
+class MediaDrops : public MediaWindowFixture {
+protected:
+	std::string DropFiles(const Paths& paths) { return Send(Drop(paths)); }
+	Paths List() { return PathsOf(Window().mflist); }
+	Paths Folders() { return PathsOf(Window().fFolderList); }
+};
+
+
+int
+count_of(const std::string& text, const std::string& part)
+{
+	int count = 0;
+	for (size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
+		count++;
+	return count;
+}
+
+
+bool
+contains(const std::string& text, const std::string& part)
+{
+	return count_of(text, part) > 0;
+}
+
+} // namespace
+
+
+TEST_F(MediaDrops, MediaFilesJoinTheListInTheirOrder)
+{
+	const Paths titles = {MakeTitle("b/2.mp3"), MakeTitle("a/1.mp4", "video/mp4"),
+		MakeTitle("b/3.asf", "x/x-asf")};
+	const std::string output = DropFiles(titles);
+	EXPECT_EQ(List(), titles);
+	EXPECT_TRUE(contains(output, "+mt10:  '" + titles[0] + "' \n"));
+	EXPECT_TRUE(contains(output, "+mt11:  '" + titles[1] + "' \n"));
+	EXPECT_TRUE(contains(output, "+mt11:  '" + titles[2] + "' \n"));
+	EXPECT_EQ(count_of(output, " ::CheckFolderImages \n"), 3);
+	EXPECT_EQ(Folders(), (Paths{fFolder / "b", fFolder / "a"}));
+	EXPECT_EQ(Window().fListView->CountChildren(), 3);
+}
+
+
+TEST_F(MediaDrops, DropWithoutFilesDoesNothing)
+{
+	EXPECT_EQ(Send(B_SIMPLE_DATA), "");
+}
+
+
+TEST_F(MediaDrops, PlaylistReplacesTheListAndEndsTheDrop)
+{
+	WritePlaylist({"/music/old.mp3"});
+	const std::string list = MakeTitle("lists/mine.m3u", "text/x-playlist");
+	fFolder.Write("lists/mine.m3u", "#EXTM3U\n/music/new.mp3\nnear.mp3\n");
+	Window();
+	Do(MF_DEC);
+	const std::string output = DropFiles({list, MakeTitle("1.mp3")});
+	EXPECT_TRUE(contains(output, "open a (Soundplay)-Playlist\n"));
+	EXPECT_EQ(List(), (Paths{"/music/new.mp3", fFolder / "lists/near.mp3"}));
+	EXPECT_TRUE(Window().fForeignListStyle);
+	EXPECT_EQ(Window().fPlaylistPath, list.c_str());
+	EXPECT_EQ(MxView::MedList, Window().mflist);
+	EXPECT_STREQ(Window().Title(), ("using: >> " + list).c_str());
+	EXPECT_EQ(Window().fListView->CountChildren(), 2);
+	// The old list was not saved, and what changes from now on goes to the dropped file.
+	EXPECT_EQ(test::ReadFile(PlaylistPath()), "/music/old.mp3\n");
+	Do(MF_REMOVE, "", 0);
+	Do(MF_SAVE);
+	EXPECT_EQ(test::ReadFile(list), (fFolder / "lists/near.mp3") + "\n");
+}
+
+
+TEST_F(MediaDrops, FolderJoinsTheFoldersOnce)
+{
+	const std::string folder = fFolder.MakeFolder("album");
+	std::string output = DropFiles({folder});
+	EXPECT_TRUE(contains(output, "no valid folder...  back to the default-List\n"));
+	EXPECT_TRUE(contains(output, folder + "\n.. Folder added\n"));
+	EXPECT_EQ(Folders(), Paths{folder});
+	EXPECT_FALSE(Window().fFolderShown);
+
+	output = DropFiles({folder});
+	EXPECT_EQ(output, " ...schon dabei \n");
+	EXPECT_EQ(Folders(), Paths{folder});
+}
+
+
+TEST_F(MediaDrops, OtherFileAddsItsFolderEachTime)
+{
+	const std::string text = MakeTitle("album/notes.txt", "text/plain");
+	const std::string output = DropFiles({text});
+	EXPECT_TRUE(contains(output, ".. ohh anything dragged \n"));
+	EXPECT_TRUE(contains(output, text + "\n\n.. Folder added\n"));
+	DropFiles({text});
+	EXPECT_EQ(Folders(), (Paths{fFolder / "album", fFolder / "album"}));
+	EXPECT_TRUE(List().empty());
+}
+
+
+TEST_F(MediaDrops, WhatIsNeitherFileNorFolderIsSkipped)
+{
+	const std::string link = fFolder / "dangling";
+	ASSERT_EQ(symlink("nothing", link.c_str()), 0);
+	EXPECT_EQ(DropFiles({link, fFolder / "gone.mp3"}), "");
+	EXPECT_TRUE(Folders().empty());
+}
+
+
+TEST_F(MediaDrops, WithoutAddingTheRemoteTypeIsRemoved)
+{
+	const std::string title = MakeTitle("1.mp3");
+	BNode node(title.c_str());
+	const int32 type = 1;
+	node.WriteAttr("KORU_TYPE", B_INT32_TYPE, 0, &type, sizeof(type));
+	BMessage message = Drop({title});
+	MEDIA_Window& window = Window();
+	EXPECT_EQ(test::OutputOf([&] { window.DraggedMediaFiles(&message, false); }),
+		"-mt10:  '" + title + "' \n");
+	int32 read = 0;
+	EXPECT_LT(node.ReadAttr("KORU_TYPE", B_INT32_TYPE, 0, &read, sizeof(read)), 0);
+	EXPECT_TRUE(contains(test::OutputOf([&] { window.DraggedMediaFiles(&message, false); }),
+		"Unknown error remove KORU_TYPE: "));
+	EXPECT_TRUE(List().empty());
+}
+
+
+TEST_F(MediaDrops, FoldersAreThoseOfTheListInItsOrder)
+{
+	WritePlaylist({"/b/1.mp3", "/a/2.mp3", "/b/3.mp3", "/c/4.mp3", "/a/5.mp3"});
+	EXPECT_EQ((Window(), Folders()), (Paths{"/b", "/a", "/c"}));
+	const std::string output = test::OutputOf([this] { Window().CheckFolderImages(); });
+	EXPECT_EQ(output, " ::CheckFolderImages \n mflist has 5 items\n folderlist has 3 items\n");
+}
+
+
+namespace {
+
+class CheckPathChars : public MediaWindowFixture {
+protected:
+	std::string Check(const std::string& path)
+	{
+		BPath checked(path.c_str());
+		MEDIA_Window& window = Window();
+		fOutput = test::OutputOf([&] { window.CheckPathChars(&checked); });
+		return checked.Path();
+	}
+
+	std::string fOutput;
+};
+
+} // namespace
+
+
+TEST_F(CheckPathChars, GoodNamesAreLeftAlone)
+{
+	const std::string title = MakeTitle("it's/plain.mp3");
+	EXPECT_EQ(Check(title), title);
+	EXPECT_EQ(fOutput, "CheckPathChars: \n" + title + "\n");
+	const std::string first = MakeTitle("'first.mp3");
+	EXPECT_EQ(Check(first), first);
+	EXPECT_EQ(access(first.c_str(), F_OK), 0);
+}
+
+
+TEST_F(CheckPathChars, EachApostropheBecomesAnAsterisk)
+{
+	const std::string title = MakeTitle("it's 'x'.mp3");
+	EXPECT_EQ(Check(title), fFolder / "it*s *x*.mp3");
+	EXPECT_EQ(fOutput,
+		"CheckPathChars: \n" + title + "\nBAD chars in filename..\nBetter is: it*s *x*.mp3\n");
+	EXPECT_EQ(Check(MakeTitle("'a'.mp3")), fFolder / "*a*.mp3");
+}
+
+
+TEST_F(CheckPathChars, FailedRenamingLeavesTheNewNameAlone)
+{
+	const std::string title = MakeTitle("it's.mp3");
+	MakeTitle("it*s.mp3");
+	EXPECT_EQ(Check(title).substr(Check(title).rfind('/')), "/it*s.mp3");
+	EXPECT_EQ(access(title.c_str(), F_OK), 0);
+}

@@ -143,10 +143,10 @@ TEST(GetImage, LoadsAPicture)
 {
 	const test::TempFolder folder;
 	const std::string path
-		= test::MakeMedia(folder / "p.png", "-f lavfi -i color=red:s=7x5 -frames:v 1");
+		= test::MakeMedia(folder / "p.png", "-f lavfi -i color=red:s=8x6 -frames:v 1");
 	const std::unique_ptr<BBitmap> bitmap(GetImage(path.c_str()));
 	ASSERT_NE(bitmap, nullptr);
-	EXPECT_EQ(bitmap->Bounds(), BRect(0, 0, 6, 4));
+	EXPECT_EQ(bitmap->Bounds(), BRect(0, 0, 7, 5));
 }
 
 

@@ -100,12 +100,33 @@ struct MeasuredFont {
 	QFont font;
 	QFontMetricsF metrics;
 	std::unordered_map<uint32, float> advances;
+	// Those of the ASCII characters, negative as long as they are not known.
+	std::array<float, 128> asciiAdvances;
 
 	explicit MeasuredFont(const QFont& font)
 		:
 		font(font),
 		metrics(font)
 	{
+		std::fill(asciiAdvances.begin(), asciiAdvances.begin() + 0x20, 0.0f);
+		std::fill(asciiAdvances.begin() + 0x20, asciiAdvances.end(), -1.0f);
+		asciiAdvances[0x7f] = 0;
+	}
+
+	// The sum for a text of nothing but ASCII, negative for others.
+	float AsciiWidth(const char* text, int32 length)
+	{
+		float width = 0;
+		for (int32 index = 0; index < length; index++) {
+			const uint8 character = static_cast<uint8>(text[index]);
+			if (character >= asciiAdvances.size())
+				return -1;
+			float& advance = asciiAdvances[character];
+			if (advance < 0)
+				advance = static_cast<float>(metrics.horizontalAdvance(QChar(character)));
+			width += advance;
+		}
+		return width;
 	}
 
 	float AdvanceOf(const QString& text, int start, int length, uint32 character)
@@ -296,9 +317,11 @@ float
 BFont::StringWidth(const char* string, int32 length) const
 {
 	length = hosted::ClampedLength(string, length);
-	if (length == 0)
+	MeasuredFont* measured = length == 0 ? nullptr : measured_font(*this);
+	if (measured == nullptr)
 		return 0;
-	return hosted::TextWidth(*this, hosted::VisibleText(string, length));
+	const float width = measured->AsciiWidth(string, length);
+	return width >= 0 ? width : hosted::TextWidth(*this, hosted::VisibleText(string, length));
 }
 
 

@@ -179,22 +179,20 @@ Painter::StrokePath(const QPainterPath& path)
 }
 
 
+// The outline is filled, because Qt draws thin lines by a rule of their own, not by what they
+// cover.
 void
 Painter::StrokePath(const QPainterPath& path, cap_mode cap)
 {
 	const DrawState& state = fView.state;
-	QPen pen;
-	pen.setWidthF(state.penSize <= 0 ? 1 : state.penSize);
-	pen.setCapStyle(to_cap(cap));
-	pen.setJoinStyle(to_join(state.join));
-	pen.setMiterLimit(state.miterLimit);
-	// Pointed corners reach out furthest.
-	const qreal reach = pen.widthF() * std::max(2.0f, state.miterLimit);
-	const QRectF bounds = path.boundingRect().adjusted(-reach, -reach, reach, reach);
-	_Smooth(bounds.toAlignedRect(), [&](QPainter& painter, const QColor& color) {
-		pen.setColor(color);
-		painter.strokePath(path, pen);
-	});
+	QPainterPathStroker stroker;
+	stroker.setWidth(state.penSize <= 0 ? 1 : state.penSize);
+	stroker.setCapStyle(to_cap(cap));
+	stroker.setJoinStyle(to_join(state.join));
+	stroker.setMiterLimit(state.miterLimit);
+	QPainterPath outline = stroker.createStroke(path);
+	outline.setFillRule(Qt::WindingFill);
+	FillPath(outline);
 }
 
 

@@ -47,6 +47,9 @@ public:
 
 	// What views ask for beyond drawing. A bitmap has none of it.
 
+	// Shows what was painted so far. Never waits.
+	virtual void Flush() {}
+
 	// Brings the picture up to date first where an update is pending, then gives the pointer's
 	// place in the host and the buttons, from the oldest queued mouse message if wanted and there
 	// is one. False leaves both as they are.

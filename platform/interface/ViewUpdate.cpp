@@ -53,16 +53,20 @@ BView::Invalidate()
 }
 
 
-// What was painted is on its way after each call.
 void
 BView::Flush() const
 {
+	// An update is shown as a whole.
+	if (fData->tree != nullptr && fData->tree->updating == nullptr)
+		fData->tree->host->Flush();
 }
 
 
+// Drawing calls have painted when they return.
 void
 BView::Sync() const
 {
+	Flush();
 }
 
 

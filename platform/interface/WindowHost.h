@@ -43,12 +43,10 @@ public:
 	void PulseNeeded() override;
 	void ViewDetached(BView& view) override;
 	void FocusChanged(BView* view) override;
+	void Flush() override;
 
 	// The view that covers the window and is the parent of all others.
 	BView& Root() const { return *fRoot; }
-
-	// Shows what was painted so far. Never waits.
-	void Flush();
 
 	// The window on the desktop; may be asked for and used from any thread. It exists from the
 	// start, even though nothing is to be seen before the first Show().

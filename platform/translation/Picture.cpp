@@ -17,7 +17,8 @@ namespace hosted {
 
 namespace {
 
-// Called before anything is decoded. Damaged pictures are an everyday thing and not worth a warning.
+// Called before anything is decoded. Damaged pictures are an everyday thing and not worth a
+// warning.
 void
 set_up_once()
 {

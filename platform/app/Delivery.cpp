@@ -40,8 +40,8 @@ deliver_inside(const Address& target, std::unique_ptr<BMessage> message, bigtime
 
 	const std::shared_ptr<LooperCore> core = Registry::Get().LooperAt(target.port);
 	if (core != nullptr) {
-		const bool counts
-			= way == Way::kPort && (target.token == kPreferredToken || envelope.remote);
+		const bool counts = way == Way::kCounted
+			|| (way == Way::kPort && (target.token == kPreferredToken || envelope.remote));
 		// A looper that waits for room in its own queue would wait for ever.
 		const bool toItself = core->thread == CurrentThread() && timeout > 0;
 		const int32 capacity = counts && !toItself ? core->capacity : 0;

@@ -54,9 +54,9 @@ private:
 	void _Finish();
 
 private:
-	std::shared_ptr<const MenuContents> fContents;
-	// By choice.
+	// By choice. Before the contents, which fill it.
 	std::vector<int64> fItems;
+	std::shared_ptr<const MenuContents> fContents;
 	MenuPlace fPlace;
 	bool fInvokes;
 	BLooper* fOwner;

@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <limits.h>
 #include <mutex>
+#include <stdlib.h>
+#include <string.h>
+#include <strings.h>
 #include <sys/stat.h>
 
 #include <taglib/fileref.h>
@@ -14,8 +17,11 @@
 #include <taglib/tiostream.h>
 #include <taglib/wavfile.h>
 
+#include <DataIO.h>
+
 #include "platform/desktop/FileContents.h"
 #include "platform/desktop/FileTypes.h"
+#include "platform/media/MediaReader.h"
 
 
 namespace hosted {
@@ -24,7 +30,7 @@ namespace {
 
 // Pictures that are part of the tags are read with them, so this is generous.
 constexpr uint64_t kMaxBytes = 64 << 20;
-constexpr int kMaxReads = 200000;
+constexpr int kMaxReads = 50000;
 constexpr size_t kMaxText = 4096;
 
 
@@ -181,23 +187,78 @@ add_missing(Tags& tags, const TagLib::Tag* more)
 }
 
 
+// The contents as the Media Kit reads them.
+class ContentsIO : public BPositionIO {
+public:
+	explicit ContentsIO(const FileContents& contents)
+		:
+		fContents(contents)
+	{
+	}
+
+	ssize_t ReadAt(off_t position, void* buffer, size_t size) override
+	{
+		const std::string bytes = fContents.Read(position, size);
+		memcpy(buffer, bytes.data(), bytes.size());
+		return bytes.size();
+	}
+	ssize_t WriteAt(off_t, const void*, size_t) override { return B_NOT_ALLOWED; }
+	off_t Seek(off_t position, uint32) override { return fPosition = position; }
+	off_t Position() const override { return fPosition; }
+	status_t GetSize(off_t* size) const override
+	{
+		*size = fContents.Size();
+		return B_OK;
+	}
+
+private:
+	const FileContents& fContents;
+	off_t fPosition = 0;
+};
+
+
+// Containers for video that TagLib does not know have tags too.
 Tags
-parse_tags(const std::string& path)
+tags_of_container(const FileContents& contents, const std::string& leaf)
+{
+	Tags tags;
+	ContentsIO source(contents);
+	const MediaReader reader(&source, leaf, MediaReader::Depth::kMetaData);
+	for (const auto& [name, value] : reader.MetaData()) {
+		const TagLib::String text(value, TagLib::String::UTF8);
+		if (strcasecmp(name.c_str(), "artist") == 0)
+			tags.artist = utf8_of(text);
+		else if (strcasecmp(name.c_str(), "title") == 0)
+			tags.title = utf8_of(text);
+		else if (strcasecmp(name.c_str(), "album") == 0)
+			tags.album = utf8_of(text);
+		else if (strcasecmp(name.c_str(), "track") == 0)
+			tags.track = std::max(0, static_cast<int32>(strtol(value.c_str(), nullptr, 10)));
+	}
+	return tags;
+}
+
+
+Tags
+parse_tags(const std::string& path, bool isVideo)
 {
 	Tags tags;
 	const FileContents contents(path);
 	if (!contents.IsOpen())
 		return tags;
 
-	BoundedStream stream(contents, path.substr(path.rfind('/') + 1));
+	const std::string leaf = path.substr(path.rfind('/') + 1);
+	BoundedStream stream(contents, leaf);
 	const TagLib::FileRef file(&stream, false);
 	if (file.isNull())
-		return tags;
+		return tags_of_container(contents, leaf);
 	add_missing(tags, file.tag());
 	const TagLib::RIFF::WAV::File* const wave
 		= dynamic_cast<const TagLib::RIFF::WAV::File*>(file.file());
 	if (wave != nullptr)
 		add_missing(tags, wave->InfoTag());
+	if (isVideo && tags.artist.empty() && tags.title.empty() && tags.album.empty())
+		return tags_of_container(contents, leaf);
 	return tags;
 }
 
@@ -265,8 +326,9 @@ ReadTags(const std::string& path)
 
 	const std::string type = FileType(path);
 	Tags tags;
-	if (type.rfind("audio/", 0) == 0 || type.rfind("video/", 0) == 0)
-		tags = parse_tags(path);
+	const bool isVideo = type.rfind("video/", 0) == 0;
+	if (isVideo || type.rfind("audio/", 0) == 0)
+		tags = parse_tags(path, isVideo);
 	last.state = state;
 	last.tags = tags;
 	return tags;

@@ -173,7 +173,7 @@ private:
 };
 
 
-MediaReader::MediaReader(BDataIO* source, const std::string& name)
+MediaReader::MediaReader(BDataIO* source, const std::string& name, Depth depth)
 {
 	static const bool sQuiet = [] {
 		av_log_set_level(AV_LOG_QUIET);
@@ -181,7 +181,7 @@ MediaReader::MediaReader(BDataIO* source, const std::string& name)
 	}();
 	static_cast<void>(sQuiet);
 	Source data(source);
-	_Read(data, name);
+	_Read(data, name, depth);
 	fTracks.resize(fFacts.size());
 }
 
@@ -230,7 +230,7 @@ MediaReader::ReleaseAllTracks()
 
 
 void
-MediaReader::_Read(Source& source, const std::string& name)
+MediaReader::_Read(Source& source, const std::string& name, Depth depth)
 {
 	const AVInputFormat* format = nullptr;
 	const int score
@@ -251,7 +251,8 @@ MediaReader::_Read(Source& source, const std::string& name)
 	if (avformat_open_input(&context, name.c_str(), format, nullptr) < 0)
 		return;
 	// What was found before an error counts.
-	avformat_find_stream_info(context, nullptr);
+	if (depth == Depth::kTracks)
+		avformat_find_stream_info(context, nullptr);
 	_Describe(*context);
 	avformat_close_input(&context);
 }

@@ -39,8 +39,15 @@ struct TrackFacts {
 */
 class MediaReader {
 public:
+	enum class Depth {
+		kTracks,
+		// Only what the file says of itself, which is much faster; nothing that needs a look at the
+		// tracks' contents is certain then.
+		kMetaData,
+	};
+
 	// name is the file's, whose extension helps to tell what it is; it may be empty.
-	MediaReader(BDataIO* source, const std::string& name);
+	MediaReader(BDataIO* source, const std::string& name, Depth depth = Depth::kTracks);
 	~MediaReader();
 	MediaReader(const MediaReader&) = delete;
 	MediaReader& operator=(const MediaReader&) = delete;
@@ -57,7 +64,7 @@ public:
 private:
 	class Source;
 
-	void _Read(Source& source, const std::string& name);
+	void _Read(Source& source, const std::string& name, Depth depth);
 	void _Describe(const AVFormatContext& context);
 	static TrackFacts _DescribeStream(const AVFormatContext& context, const AVStream& stream);
 

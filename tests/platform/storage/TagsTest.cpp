@@ -89,6 +89,21 @@ TEST(ReadTags, KnowsTheCommonKinds)
 }
 
 
+TEST(ReadTags, KnowsContainersForVideo)
+{
+	const TempFolder folder;
+	expect_tags(MakeMedia(folder / "a.mka", Tone(0.3) + kTags));
+	expect_tags(MakeMedia(folder / "a.mkv", Tone(0.3) + kTags));
+	expect_tags(MakeMedia(folder / "a.webm", Tone(0.3) + kTags + " -c:a libopus"));
+	const std::string old = MakeMedia(folder / "a.mov", Tone(0.3) + kTags);
+	EXPECT_EQ(ReadTags(old).title, "J\u00f3ga \u2603");
+	EXPECT_EQ(ReadTags(old).artist, "Bj\u00f6rk");
+	const std::string path = MakeMedia(folder / "a.avi", test::Pattern(0.3) + kTags);
+	EXPECT_EQ(ReadTags(path).title, "J\u00f3ga \u2603");
+	EXPECT_EQ(ReadTags(path).artist, "Bj\u00f6rk");
+}
+
+
 TEST(ReadTags, OldTagsAreLatin)
 {
 	const TempFolder folder;

@@ -112,10 +112,10 @@ BitmapData::NeedBits()
 }
 
 
-// An image of the pixels with alpha, from a row of a bitmap's bits.
-static void
-read_row(color_space space, const uint8* row, QRgb* pixels, int width)
+void
+BitmapData::ReadRow(int left, int y, int width, QRgb* pixels) const
 {
+	const uint8* row = bits.data() + y * bytesPerRow + left * (BitsPerPixel(space) / 8);
 	switch (space) {
 		case B_CMAP8:
 			for (int column = 0; column < width; column++)
@@ -140,19 +140,13 @@ read_row(color_space space, const uint8* row, QRgb* pixels, int width)
 
 
 QImage
-BitmapData::Pixels(const QRect& part)
+BitmapData::_Pixels(const QRect& part)
 {
-	if (status != B_OK || part.isEmpty())
-		return QImage();
 	NeedBits();
 	QImage image(part.size(), QImage::Format_ARGB32);
-	if (image.isNull())
-		return image;
-	const int32 bytesPerPixel = BitsPerPixel(space) / 8;
-	for (int y = 0; y < part.height(); y++) {
-		const uint8* row
-			= bits.data() + (part.top() + y) * bytesPerRow + part.left() * bytesPerPixel;
-		read_row(space, row, reinterpret_cast<QRgb*>(image.scanLine(y)), part.width());
+	for (int y = 0; y < image.height(); y++) {
+		ReadRow(part.left(), part.top() + y, part.width(),
+			reinterpret_cast<QRgb*>(image.scanLine(y)));
 	}
 	return image;
 }
@@ -208,7 +202,7 @@ BitmapData::SmoothPixels(const QRect& part, const QSize& size, bool isOpaque)
 	std::unique_lock<std::mutex> lock(lazyMutex);
 	if (source == nullptr) {
 		lock.unlock();
-		QImage pixels = Pixels(part);
+		QImage pixels = _Pixels(part);
 		if (isOpaque)
 			make_opaque(pixels);
 		return pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

@@ -75,14 +75,15 @@ struct BitmapData {
 	void NeedBits();
 	bool IsLazy();
 
-	// A part of the picture as 32-bit pixels that are not premultiplied; transparent ones have
-	// alpha 0, all others of a picture without alpha 255. The part lies within the picture.
-	QImage Pixels(const QRect& part);
+	// A row of pixels within the picture as 32-bit ones that are not premultiplied; transparent
+	// ones have alpha 0, all others of a picture without alpha 255. Needs the bits.
+	void ReadRow(int left, int y, int width, QRgb* pixels) const;
 	// A part of the picture drawn at a size, smoothly. A null image if it cannot be decoded. With
 	// isOpaque the transparent pixels of an ordinary bitmap show their color.
 	QImage SmoothPixels(const QRect& part, const QSize& size, bool isOpaque);
 
 private:
+	QImage _Pixels(const QRect& part);
 	QImage _LazyPixels(const QSize& size);
 	QImage _DecodeAt(const QSize& size);
 

@@ -46,44 +46,59 @@ Painter::DrawPicture(BitmapData& bitmap, BRect source, BRect destination, uint32
 }
 
 
-// The number of the source pixel for one of the target.
-static int
-source_pixel(int index, int sourceCount, int targetCount)
+// The source pixels for a range of the target's, along one axis.
+static std::vector<int>
+source_pixels(int first, int count, int sourceStart, int sourceCount, int targetStart,
+	int targetCount)
 {
-	return static_cast<int>(static_cast<int64>(index) * sourceCount / targetCount);
+	std::vector<int> numbers(static_cast<size_t>(count));
+	for (int index = 0; index < count; index++) {
+		const int64 distance = first + index - targetStart;
+		numbers[static_cast<size_t>(index)]
+			= sourceStart + static_cast<int>(distance * sourceCount / targetCount);
+	}
+	return numbers;
 }
 
 
 void
 Painter::_DrawNearest(BitmapData& bitmap, const QRect& source, const QRect& target)
 {
-	const QRect whole(0, 0, bitmap.Width(), bitmap.Height());
-	const QRect used = source & whole;
-	const QImage pixels = bitmap.Pixels(used);
-	if (pixels.isNull())
+	const QRect used = source & QRect(0, 0, bitmap.Width(), bitmap.Height());
+	if (used.isEmpty())
 		return;
-	const bool blendsAlpha = bitmap.space == B_RGBA32 && source.size() == target.size();
+	bitmap.NeedBits();
+	const bool isUnscaled = source.size() == target.size();
+	const bool blendsAlpha = bitmap.space == B_RGBA32 && isUnscaled;
+	std::vector<QRgb> row(static_cast<size_t>(used.width()));
 	std::vector<QRgb> line;
 	_ForClip(target, [&](const QRect& part) {
-		line.resize(static_cast<size_t>(part.width()));
+		const std::vector<int> columns = source_pixels(part.left(), part.width(), source.left(),
+			source.width(), target.left(), target.width());
+		const std::vector<int> rows = source_pixels(part.top(), part.height(), source.top(),
+			source.height(), target.top(), target.height());
+		// The columns of the target for which the picture has pixels.
+		const auto begin = std::lower_bound(columns.begin(), columns.end(), used.left());
+		const auto end = std::upper_bound(columns.begin(), columns.end(), used.right());
+		const int left = part.left() + static_cast<int>(begin - columns.begin());
+		const int count = static_cast<int>(end - begin);
+		if (count <= 0)
+			return;
+		line.resize(static_cast<size_t>(count));
+		int lastRow = -1;
 		for (int y = part.top(); y <= part.bottom(); y++) {
-			const int fromY
-				= source.top() + source_pixel(y - target.top(), source.height(), target.height());
+			const int fromY = rows[static_cast<size_t>(y - part.top())];
 			if (fromY < used.top() || fromY > used.bottom())
 				continue;
-			const QRgb* row
-				= reinterpret_cast<const QRgb*>(pixels.constScanLine(fromY - used.top()));
-			int begin = part.left();
-			size_t count = 0;
-			for (int x = part.left(); x <= part.right(); x++) {
-				const int fromX = source.left()
-					+ source_pixel(x - target.left(), source.width(), target.width());
-				if (fromX >= used.left() && fromX <= used.right())
-					line[count++] = row[fromX - used.left()];
-				else if (count == 0)
-					begin++;
+			if (fromY != lastRow)
+				bitmap.ReadRow(used.left(), fromY, used.width(), row.data());
+			if (fromY != lastRow && !isUnscaled) {
+				std::transform(begin, end, line.begin(),
+					[&](int x) { return row[static_cast<size_t>(x - used.left())]; });
 			}
-			PaintPicture(_Row(begin, y), line.data(), static_cast<int>(count), fInk, blendsAlpha);
+			lastRow = fromY;
+			const QRgb* pixels = isUnscaled ? row.data() + *begin - used.left() : line.data();
+			PaintPicture(_Row(left, y), pixels, count, fInk, blendsAlpha);
 		}
 	});
 }

@@ -151,7 +151,10 @@ fill_frame(Painter& painter, const QRect& outside, int width)
 		painter.FillPixels(outside);
 		return;
 	}
-	painter.FillRegion(QRegion(outside) - inside);
+	painter.FillPixels(QRect(outside.left(), outside.top(), outside.width(), width));
+	painter.FillPixels(QRect(outside.left(), inside.bottom() + 1, outside.width(), width));
+	painter.FillPixels(QRect(outside.left(), inside.top(), width, inside.height()));
+	painter.FillPixels(QRect(inside.right() + 1, inside.top(), width, inside.height()));
 }
 
 

@@ -4,6 +4,7 @@
 
 #include <Entry.h>
 #include <Flattenable.h>
+#include <Message.h>
 
 class BDirectory;
 

@@ -3,8 +3,10 @@
 
 #include <unistd.h>
 
+#include <QByteArrayList>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusMetaType>
 
 #include "platform/app/Transport.h"
 #include "platform/desktop/Activity.h"
@@ -24,6 +26,12 @@ is_call(const QDBusMessage& message, const char* method, const char* signature)
 }
 
 } // namespace
+
+
+BusObject::BusObject()
+{
+	qDBusRegisterMetaType<QByteArrayList>();
+}
 
 
 QString

@@ -30,6 +30,8 @@ inline constexpr size_t kMaxMessageSize = 16 * 1024 * 1024;
 */
 class BusObject : public QDBusVirtualObject {
 public:
+	BusObject();
+
 	QString introspect(const QString& path) const override;
 	bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
 

@@ -5,10 +5,12 @@
 #include <condition_variable>
 #include <deque>
 #include <mutex>
+#include <poll.h>
 #include <string.h>
 #include <strings.h>
 #include <string>
 #include <thread>
+#include <unistd.h>
 
 #include <AppDefs.h>
 #include <Message.h>
@@ -56,9 +58,46 @@ remote_of(const RunningApp& player)
 
 
 bool
+is_finishing()
+{
+	State& shared = state();
+	std::lock_guard<std::mutex> lock(shared.lock);
+	return shared.finishing;
+}
+
+
+// Whether the process ends within a second; whoever ends this program need not wait so long.
+bool
+ends_soon(int process)
+{
+	for (int i = 0; i < 20 && !is_finishing(); i++) {
+		pollfd waited = {process, POLLIN, 0};
+		if (poll(&waited, 1, 50) > 0)
+			return true;
+	}
+	return false;
+}
+
+
+// A player that is just starting may take the request and forget it, as VLC does; so it is asked
+// again while it stays.
+bool
+quit_by_remote(const RunningApp& player)
+{
+	const int process = PinProcess(player.identity.team);
+	bool taken = remote_of(player).Quit();
+	for (int i = 0; i < 3 && taken && process >= 0 && !ends_soon(process) && !is_finishing(); i++)
+		taken = remote_of(player).Quit() || ends_soon(process);
+	if (process >= 0)
+		close(process);
+	return taken;
+}
+
+
+bool
 quit(const RunningApp& player)
 {
-	if (!player.busNames.empty() && remote_of(player).Quit())
+	if (!player.busNames.empty() && quit_by_remote(player))
 		return true;
 	const team_id team = player.identity.team;
 	const bigtime_t started = player.identity.registered;

@@ -2,7 +2,6 @@
 #include "platform/desktop/PlayersTable.h"
 
 #include <algorithm>
-#include <fstream>
 #include <iterator>
 #include <mutex>
 #include <sstream>
@@ -11,6 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/desktop/FileText.h"
 #include "platform/desktop/Processes.h"
 
 
@@ -117,14 +117,11 @@ refresh(TableFile& file, const std::string& path)
 		&& status.st_mtim.tv_sec == file.changed.tv_sec
 		&& status.st_mtim.tv_nsec == file.changed.tv_nsec)
 		return true;
-	std::ifstream stream(path, std::ios::binary);
-	const std::string text
-		= {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 	std::string problems;
 	file.path = path;
 	file.changed = status.st_mtim;
 	file.size = status.st_size;
-	file.table = ParsePlayersTable(text, &problems);
+	file.table = ParsePlayersTable(FileText(path), &problems);
 	if (!problems.empty())
 		fprintf(stderr, "%s:\n%s", path.c_str(), problems.c_str());
 	return true;

@@ -3,8 +3,6 @@
 
 #include <algorithm>
 #include <dirent.h>
-#include <fstream>
-#include <iterator>
 #include <limits.h>
 #include <signal.h>
 #include <stdlib.h>
@@ -13,6 +11,8 @@
 #include <sys/syscall.h>
 #include <time.h>
 #include <unistd.h>
+
+#include "platform/desktop/FileText.h"
 
 
 namespace hosted {
@@ -37,20 +37,12 @@ link_target(const std::string& path)
 }
 
 
-std::string
-read_whole(const std::string& path)
-{
-	std::ifstream file(path, std::ios::binary);
-	return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
-
 // The words of the status line behind the program's name, which may itself hold blanks and
 // brackets: the state comes first, then the parent.
 std::vector<std::string>
 status_words(pid_t process)
 {
-	const std::string text = read_whole(path_of(process, "/stat"));
+	const std::string text = FileText(path_of(process, "/stat"));
 	const size_t nameEnd = text.rfind(')');
 	std::vector<std::string> words;
 	if (nameEnd == std::string::npos)
@@ -114,7 +106,7 @@ ProcessExecutable(pid_t process)
 std::vector<std::string>
 ProcessArguments(pid_t process)
 {
-	const std::string text = read_whole(path_of(process, "/cmdline"));
+	const std::string text = FileText(path_of(process, "/cmdline"));
 	std::vector<std::string> words;
 	size_t begin = 0;
 	while (begin < text.size()) {

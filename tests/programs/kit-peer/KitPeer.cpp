@@ -14,6 +14,16 @@
 
 namespace {
 
+// A looper that answers.
+class Echo : public BLooper {
+public:
+	void MessageReceived(BMessage* message) override
+	{
+		BMessage reply(*message);
+		message->SendReply(&reply);
+	}
+};
+
 class Peer : public BApplication {
 public:
 	explicit Peer(const char* signature)
@@ -22,7 +32,12 @@ public:
 	{
 	}
 
-	void ReadyToRun() override { printf("ready %d\n", getpid()); }
+	void ReadyToRun() override
+	{
+		printf("ready %d\n", getpid());
+		if (getenv("PEER_ALONE") != nullptr)
+			_TryAlone();
+	}
 
 	void ArgvReceived(int32 count, char** words) override
 	{
@@ -92,6 +107,27 @@ public:
 	}
 
 private:
+	// What has to work without anybody else, and then ends.
+	void _TryAlone()
+	{
+		status_t status;
+		BMessenger self(Signature(), -1, &status);
+		BList teams;
+		be_roster->GetAppList(&teams);
+		status_t otherStatus;
+		BMessenger other("application/x-vnd.nobody", -1, &otherStatus);
+		BLooper* looper = new Echo;
+		looper->Run();
+		BMessage question('echo');
+		question.AddString("text", "myself");
+		BMessage answer;
+		BMessenger(nullptr, looper).SendMessage(&question, &answer, 2000000, 2000000);
+		printf("alone: messenger %d, echo %s, teams %d, other %d\n", status,
+			answer.GetString("text", "-"), teams.CountItems(), otherStatus);
+		if (self.IsTargetLocal())
+			self.SendMessage(_QUIT_);
+	}
+
 	// Sends a message to another program, waits for its answer and passes that on.
 	void _Ask(const BMessage& message)
 	{
@@ -110,6 +146,9 @@ private:
 int
 main(int argc, char** argv)
 {
+	const char* output = getenv("PEER_OUTPUT");
+	if (output != nullptr && freopen(output, "a", stdout) == nullptr)
+		return 1;
 	setvbuf(stdout, nullptr, _IOLBF, 0);
 	setenv("QT_QPA_PLATFORM", "offscreen", 0);
 	const char* signature = getenv("PEER_SIGNATURE");

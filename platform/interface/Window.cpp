@@ -64,8 +64,6 @@ BWindow::~BWindow()
 void
 BWindow::Quit()
 {
-	if (!IsLocked())
-		Lock();
 	while (!IsHidden())
 		Hide();
 	if ((Flags() & B_QUIT_ON_WINDOW_CLOSE) != 0)

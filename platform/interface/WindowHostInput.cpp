@@ -125,6 +125,8 @@ WindowHost::_TargetForPointer(BMessage& message)
 	message.RemoveName(kInputOutside);
 	if (message.what == B_MOUSE_DOWN)
 		_CountClick(message, fTargetView);
+	else if (message.what == B_MOUSE_MOVED)
+		_EndMouseEventMask(message);
 
 	// Hooks may take views away: ViewDetached() keeps the pointers true.
 	BView* const left = fPointerView;
@@ -135,7 +137,8 @@ WindowHost::_TargetForPointer(BMessage& message)
 	if (fMaskView != nullptr && (fMask & B_POINTER_EVENTS) != 0 && fMaskView != fTargetView
 		&& !(fMaskView == left && message.what == B_MOUSE_MOVED))
 		_SendPointerTo(message, *fMaskView, where, B_OUTSIDE_VIEW);
-	_EndMouseEventMask(message);
+	if (message.what == B_MOUSE_UP)
+		_EndMouseEventMask(message);
 	if (fTargetView == nullptr)
 		return nullptr;
 
@@ -182,10 +185,11 @@ WindowHost::_CountClick(BMessage& message, BView* view)
 }
 
 
+// The release itself may have gone to a menu.
 void
 WindowHost::_EndMouseEventMask(const BMessage& message)
 {
-	if (message.what != B_MOUSE_UP || message.GetInt32("buttons", 0) != 0)
+	if (message.GetInt32("buttons", 0) != 0)
 		return;
 	fMaskView = nullptr;
 	fMask = 0;
@@ -238,7 +242,7 @@ WindowHost::GetMouse(BPoint* hostWhere, uint32* buttons, bool checkMessageQueue)
 }
 
 
-// Without a button held there is nothing that could end it.
+// Only a press starts it, as a release ends it.
 void
 WindowHost::SetMouseEventMask(BView& view, uint32 mask, uint32)
 {

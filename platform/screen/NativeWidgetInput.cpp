@@ -134,10 +134,12 @@ NativeWidget::enterEvent(QEnterEvent*)
 void
 NativeWidget::leaveEvent(QEvent*)
 {
-	PointerState pointer = CurrentPointer();
-	if (pointer.buttons != 0 || IsBlocked())
+	// A button that is held keeps the pointer here. A menu may have taken the release.
+	if (QGuiApplication::mouseButtons() != Qt::NoButton || IsBlocked())
 		return;
+	PointerState pointer = CurrentPointer();
 	pointer.isOurs = false;
+	pointer.buttons = 0;
 	SetCurrentPointer(pointer);
 	BMessage message(B_MOUSE_MOVED);
 	message.AddInt64("when", system_time());

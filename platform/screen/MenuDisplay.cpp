@@ -13,6 +13,7 @@
 #include <QPointer>
 
 #include "platform/screen/DisplayThread.h"
+#include "platform/screen/NativeWidget.h"
 
 
 namespace hosted {
@@ -200,6 +201,27 @@ NativeMenu::NativeMenu(std::shared_ptr<State> state)
 }
 
 
+namespace {
+
+// Where the desktop keeps windows' places to itself, Qt counts from each window's own corner.
+void
+move_to_qt_coordinates(MenuPlace& place, const QWidget* parent)
+{
+	const auto* window = dynamic_cast<const NativeWidget*>(parent);
+	if (window == nullptr)
+		return;
+	const QPoint offset = window->QtOffset();
+	place.x += offset.x();
+	place.y += offset.y();
+	place.keepLeft += offset.x();
+	place.keepRight += offset.x();
+	place.keepTop += offset.y();
+	place.keepBottom += offset.y();
+}
+
+} // namespace
+
+
 std::shared_ptr<NativeMenu>
 NativeMenu::Open(std::shared_ptr<const MenuContents> contents, const MenuPlace& place)
 {
@@ -216,6 +238,8 @@ NativeMenu::Open(std::shared_ptr<const MenuContents> contents, const MenuPlace& 
 		gesture->age.start();
 		// Where there is none, in the background of a desktop for example, the menu stands alone.
 		QWidget* parent = QApplication::activeWindow();
+		move_to_qt_coordinates(gesture->place, parent);
+		const QPoint where(gesture->place.x, gesture->place.y);
 		Window* menu = new Window(std::move(contents), std::move(gesture), parent);
 		menu->setAttribute(Qt::WA_DeleteOnClose);
 		state->menu = menu;
@@ -228,7 +252,7 @@ NativeMenu::Open(std::shared_ptr<const MenuContents> contents, const MenuPlace& 
 		});
 		QObject::connect(menu, &QObject::destroyed, finish);
 		QObject::connect(qApp, &QCoreApplication::aboutToQuit, menu, [menu]() { delete menu; });
-		menu->popup(QPoint(place.x, place.y));
+		menu->popup(where);
 	});
 	if (!ran)
 		finish();

@@ -128,6 +128,28 @@ NativeWidget::Activate(bool activate)
 }
 
 
+QPointF
+NativeWidget::ToScreen(const QPointF& where) const
+{
+	return where + fKnownFrame.topLeft();
+}
+
+
+QPointF
+NativeWidget::FromScreen(const QPointF& screenWhere) const
+{
+	return screenWhere - fKnownFrame.topLeft();
+}
+
+
+// What leads from the window's screen coordinates to Qt's.
+QPoint
+NativeWidget::QtOffset() const
+{
+	return mapToGlobal(QPoint(0, 0)) - fKnownFrame.topLeft();
+}
+
+
 bool
 NativeWidget::IsBlocked() const
 {

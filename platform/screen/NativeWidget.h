@@ -29,6 +29,12 @@ public:
 	void Apply(const WindowWishes& wishes);
 	void Activate(bool activate);
 
+	// Between the place that the window believes to be at and Qt's own, which is another one where
+	// the desktop keeps places to itself.
+	QPointF ToScreen(const QPointF& where) const;
+	QPointF FromScreen(const QPointF& screenWhere) const;
+	QPoint QtOffset() const;
+
 	// Whether an open modal window keeps input from this one.
 	bool IsBlocked() const;
 

@@ -61,7 +61,7 @@ NativeWidget::_SendPointerMessage(BMessage& message, const QPointF& where, Qt::M
 {
 	PointerState pointer;
 	pointer.isOurs = true;
-	pointer.screenWhere = to_point(mapToGlobal(where));
+	pointer.screenWhere = to_point(ToScreen(where));
 	pointer.buttons = haiku_buttons(buttons);
 	SetCurrentPointer(pointer);
 
@@ -148,7 +148,7 @@ NativeWidget::leaveEvent(QEvent*)
 	message.AddInt32("modifiers", CurrentKeys().modifiers);
 	message.AddInt32(kInputKind, kInputPointer);
 	message.AddPoint(kInputWhere,
-		to_point(mapFromGlobal(QPointF(pointer.screenWhere.x, pointer.screenWhere.y))));
+		to_point(FromScreen(QPointF(pointer.screenWhere.x, pointer.screenWhere.y))));
 	message.AddBool(kInputOutside, true);
 	fWindow->Send(message);
 }
@@ -276,7 +276,7 @@ NativeWidget::dropEvent(QDropEvent* event)
 		event->ignore();
 		return;
 	}
-	const BPoint screenWhere = to_point(mapToGlobal(event->position()));
+	const BPoint screenWhere = to_point(ToScreen(event->position()));
 	message.AddInt64("when", system_time());
 	message.AddInt32("buttons", haiku_buttons(event->buttons()));
 	message.AddPoint("_drop_point_", screenWhere);

@@ -14,8 +14,8 @@ namespace hosted {
 
 namespace {
 
-// A region of more rectangles than this is copied as one.
-constexpr int kMostRectangles = 32;
+// More rectangles than this are taken as one.
+constexpr size_t kMostRectangles = 32;
 
 
 void
@@ -25,6 +25,18 @@ copy_pixels(const QImage& from, QImage& to, const QRect& rect)
 	for (int y = rect.top(); y <= rect.bottom(); y++) {
 		memcpy(to.scanLine(y) + rect.left() * 4, from.constScanLine(y) + rect.left() * 4, bytes);
 	}
+}
+
+
+void
+merge_many(std::vector<QRect>& rects)
+{
+	if (rects.size() <= kMostRectangles)
+		return;
+	QRect all;
+	for (const QRect& rect : rects)
+		all |= rect;
+	rects.assign(1, all);
 }
 
 } // namespace
@@ -80,13 +92,17 @@ NativeWindow::Show(const QImage& picture, const QRegion& region)
 		std::lock_guard<std::mutex> lock(fMutex);
 		if (fPicture.size() != picture.size()) {
 			fPicture = picture.copy();
-			fNewPixels = fPicture.rect();
+			fNewPixels.assign(1, fPicture.rect());
 		} else {
-			const QRegion pixels
-				= region.rectCount() > kMostRectangles ? QRegion(region.boundingRect()) : region;
-			for (const QRect& rect : pixels& fPicture.rect())
-				copy_pixels(picture, fPicture, rect);
-			fNewPixels += pixels;
+			std::vector<QRect> rects(region.begin(), region.end());
+			merge_many(rects);
+			for (QRect& rect : rects) {
+				rect &= fPicture.rect();
+				if (!rect.isEmpty())
+					copy_pixels(picture, fPicture, rect);
+			}
+			fNewPixels.insert(fNewPixels.end(), rects.begin(), rects.end());
+			merge_many(fNewPixels);
 		}
 	}
 	_PostRepaint();
@@ -177,14 +193,16 @@ NativeWindow::_PostRepaint()
 	}
 	std::shared_ptr<NativeWindow> self = shared_from_this();
 	DisplayThread::Post([self]() {
-		QRegion pixels;
+		std::vector<QRect> pixels;
 		{
 			std::lock_guard<std::mutex> lock(self->fMutex);
 			self->fRepaintPosted = false;
-			pixels = std::exchange(self->fNewPixels, QRegion());
+			pixels.swap(self->fNewPixels);
 		}
-		if (self->fWidget != nullptr)
-			self->fWidget->update(pixels);
+		if (self->fWidget == nullptr)
+			return;
+		for (const QRect& rect : pixels)
+			self->fWidget->update(rect);
 	});
 }
 

@@ -6,6 +6,7 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <vector>
 
 #include <QImage>
 #include <QRect>
@@ -81,7 +82,8 @@ private:
 	bool fApplyPosted = false;
 	bool fRepaintPosted = false;
 	QImage fPicture;
-	QRegion fNewPixels;
+	// No QRegion, whose data two threads would share.
+	std::vector<QRect> fNewPixels;
 	// Belongs to the display thread.
 	NativeWidget* fWidget = nullptr;
 };

@@ -9,6 +9,7 @@
 #include "platform/screen/DisplayThread.h"
 #include "tests/platform/interface/Canvas.h"
 #include "tests/support/Output.h"
+#include "tests/support/Program.h"
 
 static_assert(B_NO_TRUNCATION == 0xffffffff && B_TRUNCATE_SMART == 3, "truncation");
 static_assert(B_BITMAP_SPACING == 2 && B_FIXED_SPACING == 3, "spacing");
@@ -81,6 +82,17 @@ TEST_F(FontTest, WidthIsTheSumOfTheCharacters)
 	EXPECT_FLOAT_EQ(fFont.StringWidth("\xc3\xa4"
 									  "b"),
 		fFont.StringWidth("\xc3\xa4") + fFont.StringWidth("b"));
+}
+
+
+TEST(FontWithoutDisplay, MeasuresNothingAndDrawsTheRest)
+{
+	test::Program program({test::ProgramPath("text-without-display")});
+	EXPECT_EQ(program.ReadLine(), "0 0 Album");
+	EXPECT_EQ(program.ReadLine(), "ffffff 000000");
+	int status = -1;
+	EXPECT_TRUE(program.WaitForEnd(&status));
+	EXPECT_EQ(status, 0);
 }
 
 

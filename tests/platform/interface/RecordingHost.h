@@ -35,6 +35,7 @@ public:
 	BWindow* Window() override { return nullptr; }
 	BPoint ScreenOrigin() const override { return BPoint(1000, 2000); }
 
+	void Flush() override { flushes++; }
 	bool GetMouse(BPoint* where, uint32* buttons, bool check) override
 	{
 		*where = BPoint(50, 60);
@@ -71,6 +72,7 @@ public:
 	std::unique_ptr<BView> root;
 	QRegion pending;
 	QRegion painted;
+	int32 flushes = 0;
 	int32 pulsesNeeded = 0;
 	std::vector<BView*> detached;
 	std::vector<BView*> focusChanges;

@@ -256,6 +256,31 @@ TEST(DirectDrawing, IsReportedAtOnce)
 }
 
 
+TEST(DirectDrawing, IsShownWhenFlushedButNotInsideAnUpdate)
+{
+	class Flushing : public BView {
+	public:
+		Flushing()
+			:
+			BView(BRect(0, 0, 9, 9), "flushing", B_FOLLOW_NONE, B_WILL_DRAW)
+		{
+		}
+
+		void Draw(BRect) override { Flush(); }
+	};
+
+	RecordingHost host;
+	Flushing* view = new Flushing;
+	view->Flush();
+	host.root->AddChild(view);
+	host.Update();
+	EXPECT_EQ(host.flushes, 0);
+	view->Flush();
+	view->Sync();
+	EXPECT_EQ(host.flushes, 2);
+}
+
+
 TEST(DirectDrawing, SkipsWhatWaitsForAnUpdate)
 {
 	RecordingHost host;

@@ -57,6 +57,8 @@ BWindow::~BWindow()
 {
 	_SetWindow(nullptr, false);
 	hosted::CloseMenusOf(this);
+	// The views' hooks may still ask things of the window.
+	hosted::DetachRoot(fHost->Root());
 	fHost.reset();
 }
 

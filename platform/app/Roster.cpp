@@ -251,7 +251,8 @@ status_t
 BRoster::StartWatching(BMessenger target, uint32 eventMask) const
 {
 	hosted::AddWatcher(target, eventMask);
-	hosted::DisplayThread::Post([]() {
+	// Whatever is launched from now on counts, so the watch has to be set up before this returns.
+	hosted::DisplayThread::Call([]() {
 		if (hosted::SessionDesk::Current() != nullptr)
 			hosted::SessionDesk::Current()->WatchPlayers();
 	});

@@ -44,7 +44,8 @@ folder_of(const std::string& path)
 }
 
 
-// The file that is to be written: behind all links, which may lead to what does not exist yet.
+// The file that is to be written: behind all links, which may lead to what does not exist yet, but
+// not in a circle, for which the result is empty.
 static std::string
 behind_links(std::string path)
 {
@@ -52,11 +53,11 @@ behind_links(std::string path)
 		char target[PATH_MAX];
 		const ssize_t length = readlink(path.c_str(), target, sizeof(target) - 1);
 		if (length < 0)
-			break;
+			return path;
 		target[length] = '\0';
 		path = target[0] == '/' ? std::string(target) : folder_of(path) + target;
 	}
-	return path;
+	return std::string();
 }
 
 
@@ -177,6 +178,8 @@ WritePlaylist(const char* path, const BList& list, bool withPrefix)
 	if (path == nullptr)
 		return false;
 	const std::string target = behind_links(path);
+	if (target.empty())
+		return false;
 	struct stat status;
 	if (stat(target.c_str(), &status) != 0)
 		return replace_file(target, nullptr, list, withPrefix);

@@ -7,6 +7,7 @@
 #include <stdlib.h>
 #include <sys/stat.h>
 
+#include <Autolock.h>
 #include <Entry.h>
 #include <Node.h>
 #include <NodeInfo.h>
@@ -26,6 +27,7 @@
 MediaWindowFixture::MediaWindowFixture()
 	:
 	fOldHome(getenv("HOME")),
+	fOldConfiguration(getenv("XDG_CONFIG_HOME")),
 	fOldPath(getenv("PATH")),
 	fHome(fFolder.MakeFolder("home"))
 {
@@ -33,6 +35,7 @@ MediaWindowFixture::MediaWindowFixture()
 	Prefs::DeleteMe();
 	MEView::mPrefs = nullptr;
 	setenv("HOME", fHome.c_str(), 1);
+	setenv("XDG_CONFIG_HOME", fFolder.MakeFolder("home/.config").c_str(), 1);
 
 	const std::string tool = fFolder.Write(std::string("tools/") + kFileManager,
 		"#!/bin/sh\necho \"$*\" >> '" + (fFolder / "opened") + "'\n");
@@ -47,6 +50,7 @@ MediaWindowFixture::~MediaWindowFixture()
 	Prefs::DeleteMe();
 	MEView::mPrefs = nullptr;
 	setenv("HOME", fOldHome.c_str(), 1);
+	setenv("XDG_CONFIG_HOME", fOldConfiguration.c_str(), 1);
 	setenv("PATH", fOldPath.c_str(), 1);
 }
 
@@ -54,8 +58,11 @@ MediaWindowFixture::~MediaWindowFixture()
 MEDIA_Window&
 MediaWindowFixture::Window()
 {
-	if (fWindow == nullptr)
+	// A window that was never shown is its maker's; alerts wait until it is unlocked.
+	if (fWindow == nullptr) {
 		fWindow = new MEDIA_Window(BRect(260, 40, 660, 600));
+		fWindow->Unlock();
+	}
 	return *fWindow;
 }
 
@@ -63,8 +70,7 @@ MediaWindowFixture::Window()
 void
 MediaWindowFixture::CloseWindow()
 {
-	// Never shown: its maker holds its lock, and quitting deletes it.
-	if (fWindow != nullptr)
+	if (fWindow != nullptr && fWindow->Lock())
 		fWindow->Quit();
 	fWindow = nullptr;
 	MxView::MedListChecked = false;
@@ -76,6 +82,7 @@ std::string
 MediaWindowFixture::Send(BMessage message)
 {
 	MEDIA_Window& window = Window();
+	const BAutolock lock(&window);
 	return test::OutputOf([&] { window.MessageReceived(&message); });
 }
 
@@ -100,6 +107,7 @@ std::string
 MediaWindowFixture::Do(int32 operation, const std::string& path, int32 number)
 {
 	MEDIA_Window& window = Window();
+	const BAutolock lock(&window);
 	return test::OutputOf(
 		[&] { window.DoWithMediaFiles(operation, path.empty() ? nullptr : path.c_str(), number); });
 }

@@ -51,6 +51,7 @@ protected:
 
 private:
 	std::string fOldHome;
+	std::string fOldConfiguration;
 	std::string fOldPath;
 	std::string fHome;
 	MEDIA_Window* fWindow = nullptr;

@@ -242,8 +242,7 @@ TEST_F(PlaylistFileTest, FileThatMayNotBeWrittenIsNotReplaced)
 	Fill({"/music/a.mp3"});
 	// The superuser may write everything.
 	const uid_t user = geteuid();
-	if (user == 0)
-		ASSERT_EQ(seteuid(65534), 0);
+	ASSERT_EQ(seteuid(user == 0 ? 65534 : user), 0);
 	const bool written = WritePlaylist(path.c_str(), fList, false);
 	ASSERT_EQ(seteuid(user), 0);
 	EXPECT_FALSE(written);

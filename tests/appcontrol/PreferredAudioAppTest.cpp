@@ -1,0 +1,97 @@
+// Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#include "appcontrol/PreferredAudioApp.h"
+
+#include <memory>
+#include <string>
+
+#include <stdio.h>
+#include <string.h>
+
+#include <Menu.h>
+#include <MenuItem.h>
+#include <Message.h>
+#include <MimeType.h>
+#include <gtest/gtest.h>
+
+#include "appcontrol/PlayerMessages.h"
+#include "locale/KVLabel.h"
+#include "locale/Labels.h"
+#include "settings/Prefs.h"
+#include "tests/support/Application.h"
+#include "tests/support/Output.h"
+
+
+namespace {
+
+class AskForPrefAppTest : public testing::Test {
+protected:
+	AskForPrefAppTest()
+	{
+		test::TheApplication();
+		KVLabel::getKVLabel("KORU-Haiku")->MirrorList(eLabel);
+		Prefs::DeleteMe();
+	}
+
+	std::string Fill()
+	{
+		fMenu = std::make_unique<BMenu>("players");
+		return test::OutputOf([this] { AskForPrefApp(fMenu.get()); });
+	}
+
+	std::unique_ptr<BMenu> fMenu;
+};
+
+} // namespace
+
+
+TEST_F(AskForPrefAppTest, NoneComesFirstAndIsMarked)
+{
+	Fill();
+	ASSERT_GE(fMenu->CountItems(), 2);
+	const BMenuItem* const none = fMenu->ItemAt(0);
+	EXPECT_STREQ(none->Label(), " -none-");
+	EXPECT_TRUE(none->IsMarked());
+	EXPECT_EQ(none->Command(), kMsgPreferredAudioApp);
+	EXPECT_STREQ(none->Message()->GetString("aa_mime"), " -none-");
+	EXPECT_NE(dynamic_cast<BSeparatorItem*>(fMenu->ItemAt(1)), nullptr);
+	EXPECT_TRUE(fMenu->IsRadioMode());
+}
+
+
+TEST_F(AskForPrefAppTest, PlayersCarryTheirPathsAndThePreferredOneIsMarked)
+{
+	Fill();
+	for (int32 index = 2; index < fMenu->CountItems(); index++) {
+		const std::string path = fMenu->ItemAt(index)->Message()->GetString("aa_mime");
+		EXPECT_EQ(path.substr(path.rfind('/') + 1), fMenu->ItemAt(index)->Label());
+		EXPECT_FALSE(fMenu->ItemAt(index)->IsMarked());
+
+		Prefs* const prefs = Prefs::getSTPrefs();
+		snprintf(prefs->pref_AudioApp, sizeof(prefs->pref_AudioApp), "%s", path.c_str());
+		Fill();
+		EXPECT_TRUE(fMenu->ItemAt(index)->IsMarked());
+		EXPECT_FALSE(fMenu->ItemAt(0)->IsMarked());
+		strcpy(prefs->pref_AudioApp, "-empty-");
+		Fill();
+	}
+}
+
+
+TEST_F(AskForPrefAppTest, PrintsWhatItFinds)
+{
+	BMessage reply;
+	BMimeType("audio/x-mpeg").GetSupportingApps(&reply);
+	const std::string output = Fill();
+	EXPECT_EQ(output.find("\nAskForPrefApp() \n"), 0u);
+	EXPECT_NE(output.find(" subs:"), std::string::npos);
+
+	const std::string silent = test::OutputOf([] { AskForPrefApp(nullptr); });
+	EXPECT_EQ(silent.find(" [OK]"), std::string::npos);
+	const char* signature;
+	for (int32 index = 0; reply.FindString("applications", index, &signature) == B_OK; index++) {
+		const std::string support
+			= index < reply.GetInt32("be:sub", 0) ? "     Full support: '" : "Supertype support: '";
+		EXPECT_NE(output.find(support + signature + "'\n"), std::string::npos) << signature;
+		EXPECT_NE(silent.find(support + signature + "'\n"), std::string::npos) << signature;
+	}
+}

@@ -17,6 +17,7 @@
 #include <QScrollArea>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "platform/screen/DisplayThread.h"
 
@@ -35,7 +36,7 @@ struct NativeAlert::State {
 
 class NativeAlert::Dialog : public QDialog {
 public:
-	Dialog(const AlertContents& contents, std::shared_ptr<State> state, QWidget* parent);
+	Dialog(const AlertContents& contents, std::shared_ptr<State> state, const QWidget* over);
 
 	bool eventFilter(QObject* watched, QEvent* event) override;
 	void reject() override;
@@ -47,7 +48,7 @@ private:
 	QWidget* _NewText(const QString& text);
 	QWidget* _NewIcon();
 	QLayout* _NewButtons();
-	void _Place();
+	void _Place(const QWidget* below);
 	void _Choose(int index);
 
 private:
@@ -104,9 +105,8 @@ character_of(const QKeyEvent& event)
 
 
 NativeAlert::Dialog::Dialog(const AlertContents& contents, std::shared_ptr<State> state,
-	QWidget* parent)
+	const QWidget* over)
 	:
-	QDialog(parent),
 	fContents(contents),
 	fState(std::move(state))
 {
@@ -125,7 +125,11 @@ NativeAlert::Dialog::Dialog(const AlertContents& contents, std::shared_ptr<State
 	all->addLayout(_NewButtons());
 	all->setSizeConstraint(QLayout::SetFixedSize);
 	adjustSize();
-	_Place();
+	_Place(over);
+	// The window below is not the parent: an alert outlives the window that it stands over.
+	winId();
+	if (over != nullptr)
+		windowHandle()->setTransientParent(over->windowHandle());
 }
 
 
@@ -204,7 +208,7 @@ NativeAlert::Dialog::_NewButtons()
 
 
 void
-NativeAlert::Dialog::_Place()
+NativeAlert::Dialog::_Place(const QWidget* below)
 {
 	QRect over(QPoint(fContents.overLeft, fContents.overTop),
 		QPoint(fContents.overRight, fContents.overBottom));
@@ -213,7 +217,7 @@ NativeAlert::Dialog::_Place()
 		screen = QGuiApplication::screenAt(over.center());
 	const QRect available = screen->availableGeometry();
 	if (over.isEmpty())
-		over = parentWidget() != nullptr ? parentWidget()->frameGeometry() : available;
+		over = below != nullptr ? below->frameGeometry() : available;
 	QRect frame = rect();
 	frame.moveCenter(over.center());
 	frame.moveLeft(

@@ -9,7 +9,7 @@
 #include "appcontrol/PreferredAudioApp.h"
 #include "locale/KVLabel.h"
 #include "locale/Labels.h"
-#include "tests/support/Application.h"
+#include "tests/support/RunningApplication.h"
 #include "tests/support/Output.h"
 
 

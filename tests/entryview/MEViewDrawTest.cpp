@@ -9,7 +9,7 @@
 #include "locale/KVLabel.h"
 #include "locale/Labels.h"
 #include "settings/Prefs.h"
-#include "tests/support/Application.h"
+#include "tests/support/RunningApplication.h"
 
 
 namespace {

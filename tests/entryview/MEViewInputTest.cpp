@@ -16,7 +16,7 @@
 #include "locale/KVLabel.h"
 #include "locale/Labels.h"
 #include "settings/Prefs.h"
-#include "tests/support/Application.h"
+#include "tests/support/RunningApplication.h"
 #include "tests/support/Output.h"
 #include "tests/support/Wait.h"
 
@@ -107,9 +107,12 @@ protected:
 			tile = BMessenger(fTile);
 		}
 		tile.SendMessage(&message);
-		BMessage last('last');
-		BMessage reply;
-		BMessenger(fWindow).SendMessage(&last, &reply, 5000000, 5000000);
+		// Once for what was sent, and once for what that has sent in turn.
+		for (int round = 0; round < 2; round++) {
+			BMessage last('last');
+			BMessage reply;
+			BMessenger(fWindow).SendMessage(&last, &reply, 5000000, 5000000);
+		}
 	}
 
 	Listener* fWindow = nullptr;
@@ -122,8 +125,8 @@ protected:
 TEST_F(MEViewInput, PrimaryButtonPlays)
 {
 	Press(B_PRIMARY_MOUSE_BUTTON);
+	ASSERT_TRUE(test::WaitFor([this] { return fWindow->Received(kMsgPlayTitle).size() == 1; }));
 	const std::vector<BMessage> sent = fWindow->Received(kMsgPlayTitle);
-	ASSERT_EQ(sent.size(), 1u);
 	EXPECT_EQ(sent[0].GetInt32("ml_nr", -1), 4);
 	EXPECT_EQ(MEView::IsSelected, 4);
 	EXPECT_EQ(MEView::IsNext, 5);

@@ -11,7 +11,7 @@
 #include <TypeConstants.h>
 #include <gtest/gtest.h>
 
-#include "tests/support/Application.h"
+#include "tests/support/RunningApplication.h"
 #include "tests/support/TempFolder.h"
 
 

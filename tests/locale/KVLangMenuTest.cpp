@@ -16,7 +16,7 @@
 #include "locale/Labels.h"
 #include "locale/LanguageMemory.h"
 #include "locale/LanguageMessages.h"
-#include "tests/support/Application.h"
+#include "tests/support/RunningApplication.h"
 #include "tests/support/Output.h"
 
 

@@ -14,7 +14,7 @@
 #include <TypeConstants.h>
 #include <gtest/gtest.h>
 
-#include "tests/support/Application.h"
+#include "tests/support/RunningApplication.h"
 #include "tests/support/Media.h"
 #include "tests/support/Output.h"
 #include "tests/support/TempFolder.h"
@@ -156,7 +156,10 @@ TEST(GetImage, WhatIsNoPictureGivesNone)
 	const std::string path = folder.Write("p.jpg", "no picture");
 	const std::string output
 		= test::OutputOf([&path] { EXPECT_EQ(GetImage(path.c_str()), nullptr); });
-	EXPECT_EQ(output, "\xA0" "can't translate '" + path + "'\n");
+	EXPECT_EQ(output,
+		"\xA0"
+		"can't translate '"
+			+ path + "'\n");
 	EXPECT_EQ(test::OutputOf([] { EXPECT_EQ(GetImage("/nowhere/p.jpg"), nullptr); }), "");
 }
 
@@ -171,8 +174,8 @@ TEST(GetMediaDuration, WholeSecondsOfSound)
 TEST(GetMediaDuration, TheLongerOfSoundAndPicture)
 {
 	const test::TempFolder folder;
-	const std::string path = test::MakeMedia(
-		folder / "v.mkv", test::Tone(10) + " " + test::Pattern(12) + " -map 0 -map 1");
+	const std::string path = test::MakeMedia(folder / "v.mkv",
+		test::Tone(10) + " " + test::Pattern(12) + " -map 0 -map 1");
 	EXPECT_EQ(duration_of(path), 12);
 }
 
@@ -235,10 +238,9 @@ TEST(GetLastRosterMessenger, RefusesTheSystemAndItself)
 	test::TheApplication();
 	BMessage first = notice(B_SOME_APP_LAUNCHED, "application/x-vnd.first");
 	const BMessenger messenger = GetLastRosterMessenger(&first, nullptr);
-	for (const char* refused :
-		{"application/x-vnd.Be-SHEL", "application/x-vnd.Be-TRAK", "application/x-vnd.Be-TSKB",
-			"application/x-mw-BeIDE", "application/x-vnd.Haiku-Terminal",
-			"application/x-vnd.kv-VinyloH"}) {
+	for (const char* refused : {"application/x-vnd.Be-SHEL", "application/x-vnd.Be-TRAK",
+			 "application/x-vnd.Be-TSKB", "application/x-mw-BeIDE",
+			 "application/x-vnd.Haiku-Terminal", "application/x-vnd.kv-VinyloH"}) {
 		BMessage message = notice(B_SOME_APP_QUIT, refused);
 		EXPECT_EQ(GetLastRosterMessenger(&message, nullptr), messenger) << refused;
 		EXPECT_EQ(remembered(), "application/x-vnd.first") << refused;
@@ -316,12 +318,10 @@ TEST(ChangeKoruFiletype, CopiesTheNumber)
 {
 	const test::TempFolder folder;
 	BNode node(folder.Write("f", "").c_str());
-	EXPECT_EQ(
-		test::OutputOf([&node] { ChangeKoruFiletype(node); }), " err  change type ");
+	EXPECT_EQ(test::OutputOf([&node] { ChangeKoruFiletype(node); }), " err  change type ");
 	const int32 number = 12;
 	node.WriteAttr("IR!OWN_FILE", B_INT32_TYPE, 0, &number, sizeof(number));
-	EXPECT_EQ(
-		test::OutputOf([&node] { ChangeKoruFiletype(node); }), " changed type  '12' ");
+	EXPECT_EQ(test::OutputOf([&node] { ChangeKoruFiletype(node); }), " changed type  '12' ");
 	int32 copied = 0;
 	EXPECT_EQ(node.ReadAttr("KORU_TYPE", B_INT32_TYPE, 0, &copied, sizeof(copied)), 4);
 	EXPECT_EQ(copied, 12);

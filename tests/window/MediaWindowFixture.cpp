@@ -17,7 +17,7 @@
 #include "listview/MxView.h"
 #include "settings/Locations.h"
 #include "settings/Prefs.h"
-#include "tests/support/Application.h"
+#include "tests/support/RunningApplication.h"
 #include "tests/support/Output.h"
 #include "tests/support/Wait.h"
 #include "window/MediaWindow.h"

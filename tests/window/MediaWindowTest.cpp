@@ -8,7 +8,7 @@
 
 #include "listview/MxView.h"
 #include "settings/Prefs.h"
-#include "tests/support/Application.h"
+#include "tests/support/RunningApplication.h"
 #include "tests/support/Output.h"
 #include "tests/support/Popups.h"
 #include "tests/support/Wait.h"

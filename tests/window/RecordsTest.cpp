@@ -4,7 +4,7 @@
 #include <Bitmap.h>
 #include <gtest/gtest.h>
 
-#include "tests/support/Application.h"
+#include "tests/support/RunningApplication.h"
 #include "tests/support/Media.h"
 #include "tests/support/Output.h"
 #include "tests/support/TempFolder.h"

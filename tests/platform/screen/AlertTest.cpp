@@ -196,3 +196,18 @@ TEST_F(AlertTest, LiesOverTheWindowThatOpensIt)
 	ASSERT_TRUE(test::WaitForNoDialog());
 	test::CloseWindow(window);
 }
+
+
+TEST_F(AlertTest, OutlivesTheWindowThatItLiesOver)
+{
+	AlertWindow* window = new AlertWindow;
+	window->Show();
+	test::Settle(window);
+	BAlert* alert = new CountedAlert(fDeleted);
+	alert->Go(nullptr);
+	ASSERT_TRUE(test::WaitForDialog());
+	test::CloseWindow(window);
+	EXPECT_EQ(test::DialogTitle(), "Title");
+	ASSERT_TRUE(test::ClickDialogButton("Yes"));
+	EXPECT_TRUE(test::WaitFor([this]() { return fDeleted == 1; }));
+}

@@ -1,5 +1,5 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
-#include "tests/support/Application.h"
+#include "tests/support/RunningApplication.h"
 
 #include <condition_variable>
 #include <thread>
@@ -9,7 +9,7 @@
 
 namespace test {
 
-static Application* sApplication = nullptr;
+static RunningApplication* sApplication = nullptr;
 
 
 namespace {
@@ -36,7 +36,7 @@ private:
 } // namespace
 
 
-Application::Application()
+RunningApplication::RunningApplication()
 	:
 	BApplication("application/x-vnd.kv-VinyloH-tests")
 {
@@ -44,7 +44,7 @@ Application::Application()
 
 
 void
-Application::MessageReceived(BMessage* message)
+RunningApplication::MessageReceived(BMessage* message)
 {
 	const std::lock_guard<std::mutex> guard(fLock);
 	fReceived.push_back(*message);
@@ -52,7 +52,7 @@ Application::MessageReceived(BMessage* message)
 
 
 int32
-Application::CountReceived(uint32 what)
+RunningApplication::CountReceived(uint32 what)
 {
 	const std::lock_guard<std::mutex> guard(fLock);
 	int32 count = 0;
@@ -63,7 +63,7 @@ Application::CountReceived(uint32 what)
 
 
 BMessage
-Application::LastReceived(uint32 what)
+RunningApplication::LastReceived(uint32 what)
 {
 	const std::lock_guard<std::mutex> guard(fLock);
 	for (auto message = fReceived.rbegin(); message != fReceived.rend(); ++message) {
@@ -75,14 +75,14 @@ Application::LastReceived(uint32 what)
 
 
 void
-Application::ForgetReceived()
+RunningApplication::ForgetReceived()
 {
 	const std::lock_guard<std::mutex> guard(fLock);
 	fReceived.clear();
 }
 
 
-Application&
+RunningApplication&
 TheApplication()
 {
 	if (sApplication != nullptr)
@@ -91,7 +91,7 @@ TheApplication()
 	std::mutex lock;
 	std::condition_variable made;
 	std::thread thread([&lock, &made] {
-		Application* const application = new Application;
+		RunningApplication* const application = new RunningApplication;
 		{
 			const std::lock_guard<std::mutex> guard(lock);
 			sApplication = application;

@@ -1,6 +1,6 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
-#ifndef TEST_APPLICATION_H
-#define TEST_APPLICATION_H
+#ifndef RUNNING_APPLICATION_H
+#define RUNNING_APPLICATION_H
 
 #include <mutex>
 #include <vector>
@@ -14,9 +14,9 @@ namespace test {
 /*!	The one application object of a test process, running in a thread of its own. It keeps what it
 	is told.
 */
-class Application : public BApplication {
+class RunningApplication : public BApplication {
 public:
-	Application();
+	RunningApplication();
 
 	void MessageReceived(BMessage* message) override;
 
@@ -31,8 +31,8 @@ private:
 };
 
 // Made with the first call, gone before the display thread stops.
-Application& TheApplication();
+RunningApplication& TheApplication();
 
 } // namespace test
 
-#endif // TEST_APPLICATION_H
+#endif // RUNNING_APPLICATION_H

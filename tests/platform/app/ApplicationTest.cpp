@@ -216,12 +216,12 @@ TEST(Application, PulseComesAtItsRate)
 {
 	Record record;
 	TestApplication application(record);
+	const bigtime_t start = system_time();
 	application.SetPulseRate(150000);
 	std::thread other([&record]() {
 		EXPECT_TRUE(WaitFor([&record]() { return count_of(record, B_PULSE) >= 2; }));
 		be_app_messenger.SendMessage(B_QUIT_REQUESTED);
 	});
-	const bigtime_t start = system_time();
 	application.Run();
 	other.join();
 	EXPECT_GE(system_time() - start, 200000);

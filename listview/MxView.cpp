@@ -137,10 +137,21 @@ MxView::AttachedToWindow()
 		MedListChecked = true;
 	}
 	ChildsFromList(false);
+	_ForgetTiming();
 	_PlaceMarks();
 	_LoadBackground();
 	SetDrawingMode(B_OP_OVER);
 	printf(" MxView::AttachedToWindow -ende-");
+}
+
+
+// Nobody has started a title yet: the program does not begin to sound because it was started.
+void
+MxView::_ForgetTiming()
+{
+	playEnd = 0;
+	playLength = 0;
+	settings->last_timer_nr = -1;
 }
 
 

@@ -107,6 +107,7 @@ private:
 	MEView* _TileAt(int32 index) const;
 	void _RemoveTiles();
 	void _AddTiles(bool quiet);
+	void _ForgetTiming();
 	void _PlaceMarks();
 	void _LoadBackground();
 

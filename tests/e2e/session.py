@@ -122,6 +122,8 @@ class Session:
 				except subprocess.TimeoutExpired:
 					process.kill()
 					process.wait()
+			if process.stdout is not None:
+				process.stdout.close()
 		self.end_strays()
 		shutil.rmtree(self.root, ignore_errors=True)
 
@@ -168,9 +170,9 @@ class Session:
 
 	def start(self, name, command, log=None, **more):
 		"""Starts a program in the session; its output goes to the log file, if one is given."""
-		target = open(log, "ab") if log else subprocess.DEVNULL
-		process = subprocess.Popen(command, env={**self.environment, **more},
-			stdin=subprocess.DEVNULL, stdout=target, stderr=subprocess.STDOUT if log else target)
+		with open(log or os.devnull, "ab") as target:
+			process = subprocess.Popen(command, env={**self.environment, **more},
+				stdin=subprocess.DEVNULL, stdout=target, stderr=subprocess.STDOUT)
 		self.processes.append((name, process))
 		return process
 

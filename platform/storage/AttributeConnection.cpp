@@ -30,6 +30,16 @@ file_node(const std::string& path)
 	return stat(path.c_str(), &status) == 0 ? status.st_ino : 0;
 }
 
+
+// Whether a row is about this file rather than one that lay at its path before.
+bool
+is_same_file(const FileIdentity& file, int64 number, int64 birth)
+{
+	if (birth != 0 && file.birth != 0)
+		return birth == file.birth;
+	return number == static_cast<int64>(file.node) || file.isNodeUnsteady;
+}
+
 } // namespace
 
 
@@ -70,6 +80,7 @@ public:
 		return result == SQLITE_DONE || result == SQLITE_ROW ? SQLITE_OK : result;
 	}
 
+	bool IsNull(int column) const { return sqlite3_column_type(fStatement, column) == SQLITE_NULL; }
 	int64 Number(int column) const { return sqlite3_column_int64(fStatement, column); }
 	std::string Bytes(int column) const
 	{
@@ -88,6 +99,7 @@ AttributeDatabase::Connection::~Connection()
 {
 	fNodeByPath.reset();
 	fNodeByNumber.reset();
+	fValueByPath.reset();
 	fValue.reset();
 	fNames.reset();
 	fSetNode.reset();
@@ -145,6 +157,10 @@ AttributeDatabase::Connection::_Prepare()
 	const std::pair<const char*, StatementPointer*> kStatements[] = {
 		{"SELECT id, number, birth FROM node WHERE path = ?", &fNodeByPath},
 		{"SELECT id, path FROM node WHERE number = ? AND birth = ?", &fNodeByNumber},
+		{"SELECT node.number, node.birth, attribute.type, attribute.value FROM node"
+		 " LEFT JOIN attribute ON attribute.node = node.id AND attribute.name = ?"
+		 " WHERE node.path = ?",
+			&fValueByPath},
 		{"SELECT type, value FROM attribute WHERE node = ? AND name = ?", &fValue},
 		{"SELECT name FROM attribute WHERE node = ? ORDER BY name", &fNames},
 		{"INSERT INTO node (path, number, birth) VALUES (?, ?, ?)", &fSetNode},
@@ -175,30 +191,33 @@ int
 AttributeDatabase::Connection::_FindNode(const FileIdentity& file, int64* id, bool* hasMoved)
 {
 	*hasMoved = false;
-	const int64 number = static_cast<int64>(file.node);
 	{
 		Statement byPath(fNodeByPath);
 		const int result = byPath.Bind(file.path).Step();
 		if (result == SQLITE_ROW) {
 			*id = byPath.Number(0);
-			const bool isSameNumber = byPath.Number(1) == number;
-			const int64 birth = byPath.Number(2);
-			const bool isBirthKnown = birth != 0 && file.birth != 0;
-			if (isBirthKnown ? birth == file.birth : isSameNumber || file.isNodeUnsteady)
+			if (is_same_file(file, byPath.Number(1), byPath.Number(2)))
 				return SQLITE_OK;
 		} else if (result != SQLITE_DONE) {
 			return result;
 		}
 	}
+	const int result = _FindByNumber(file, id);
+	*hasMoved = result == SQLITE_OK;
+	return result;
+}
+
+
+int
+AttributeDatabase::Connection::_FindByNumber(const FileIdentity& file, int64* id)
+{
 	if (file.birth == 0 || file.isNodeUnsteady)
 		return SQLITE_NOTFOUND;
-
 	Statement byNumber(fNodeByNumber);
-	const int result = byNumber.Bind(number).Bind(file.birth).Step();
+	const int result = byNumber.Bind(static_cast<int64>(file.node)).Bind(file.birth).Step();
 	if (result != SQLITE_ROW)
 		return result == SQLITE_DONE ? SQLITE_NOTFOUND : result;
 	*id = byNumber.Number(0);
-	*hasMoved = true;
 	return SQLITE_OK;
 }
 
@@ -254,9 +273,22 @@ int
 AttributeDatabase::Connection::Read(const FileIdentity& file, const char* name, type_code* type,
 	std::string* value)
 {
+	// One question suffices unless the file was renamed.
+	{
+		Statement byPath(fValueByPath);
+		const int result = byPath.Bind(name, strlen(name)).Bind(file.path).Step();
+		if (result != SQLITE_ROW && result != SQLITE_DONE)
+			return result;
+		if (result == SQLITE_ROW && is_same_file(file, byPath.Number(0), byPath.Number(1))) {
+			if (byPath.IsNull(2))
+				return SQLITE_NOTFOUND;
+			*type = static_cast<type_code>(byPath.Number(2));
+			*value = byPath.Bytes(3);
+			return SQLITE_OK;
+		}
+	}
 	int64 id;
-	bool hasMoved;
-	int result = _FindNode(file, &id, &hasMoved);
+	int result = _FindByNumber(file, &id);
 	if (result != SQLITE_OK)
 		return result;
 	Statement select(fValue);

@@ -40,6 +40,7 @@ private:
 	class Statement;
 
 	int _Prepare();
+	int _FindByNumber(const FileIdentity& file, int64* id);
 	int _FindNode(const FileIdentity& file, int64* id, bool* hasMoved);
 	int _MakeNode(const FileIdentity& file, int64* id);
 	int _DeleteNode(int64 id);
@@ -59,6 +60,7 @@ private:
 	sqlite3* fHandle = nullptr;
 	StatementPointer fNodeByPath;
 	StatementPointer fNodeByNumber;
+	StatementPointer fValueByPath;
 	StatementPointer fValue;
 	StatementPointer fNames;
 	StatementPointer fSetNode;

@@ -16,16 +16,13 @@ namespace hosted {
 namespace {
 
 bool
-are_nodes_unsteady(int fd)
+is_unsteady_type(uint32 type)
 {
-	constexpr long kExfat = 0x2011bab0;
-	constexpr long kFuse = 0x65735546;
-	constexpr long kCifs = 0xff534d42;
-	constexpr long kSmb2 = 0xfe534d42;
-	struct statfs status;
-	if (fstatfs(fd, &status) != 0)
-		return false;
-	switch (static_cast<uint32>(status.f_type)) {
+	constexpr uint32 kExfat = 0x2011bab0;
+	constexpr uint32 kFuse = 0x65735546;
+	constexpr uint32 kCifs = 0xff534d42;
+	constexpr uint32 kSmb2 = 0xfe534d42;
+	switch (type) {
 		case MSDOS_SUPER_MAGIC:
 		case kExfat:
 		case kFuse:
@@ -36,6 +33,23 @@ are_nodes_unsteady(int fd)
 		default:
 			return false;
 	}
+}
+
+
+bool
+are_nodes_unsteady(int fd, uint64 device)
+{
+	// Files are asked for by the thousand, and nearly always lie on the same file system.
+	thread_local uint64 tDevice = 0;
+	thread_local bool tAreUnsteady = false;
+	if (device == tDevice)
+		return tAreUnsteady;
+	struct statfs status;
+	if (fstatfs(fd, &status) != 0)
+		return false;
+	tDevice = device;
+	tAreUnsteady = is_unsteady_type(static_cast<uint32>(status.f_type));
+	return tAreUnsteady;
 }
 
 } // namespace
@@ -56,7 +70,8 @@ IdentifyFile(int fd, FileIdentity* identity)
 		identity->birth
 			= static_cast<int64>(status.stx_btime.tv_sec) * 1000000000 + status.stx_btime.tv_nsec;
 	}
-	identity->isNodeUnsteady = are_nodes_unsteady(fd);
+	const uint64 device = static_cast<uint64>(status.stx_dev_major) << 32 | status.stx_dev_minor;
+	identity->isNodeUnsteady = are_nodes_unsteady(fd, device);
 	return B_OK;
 }
 

@@ -467,7 +467,8 @@ TEST(MessageCopy, IsDeepAndKeepsCode)
 	message.ReplaceString("s", "y");
 	EXPECT_EQ(copy.what, static_cast<uint32>('orig'));
 	EXPECT_STREQ(copy.GetString("s"), "x");
-	copy = copy;
+	const BMessage& itself = copy;
+	copy = itself;
 	EXPECT_STREQ(copy.GetString("s"), "x");
 }
 

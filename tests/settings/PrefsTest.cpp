@@ -2,6 +2,7 @@
 #include "settings/Prefs.h"
 
 #include <cstring>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -11,12 +12,14 @@
 #include <File.h>
 #include <FindDirectory.h>
 #include <Path.h>
+#include <Roster.h>
 #include <TypeConstants.h>
 #include <fs_attr.h>
 #include <gtest/gtest.h>
 
 #include "settings/PrefsTable.h"
 #include "tests/support/Output.h"
+#include "tests/support/RunningApplication.h"
 
 
 namespace {
@@ -51,12 +54,11 @@ void
 store(const char* key, uint32 type, const void* data, size_t size)
 {
 	BFile file(settings_path().c_str(), B_READ_WRITE | B_CREATE_FILE);
-	ASSERT_EQ(
-		file.WriteAttr(key, type, 0, data, size), static_cast<ssize_t>(size));
+	ASSERT_EQ(file.WriteAttr(key, type, 0, data, size), static_cast<ssize_t>(size));
 }
 
 
-template<class Value>
+template <class Value>
 std::string
 bytes_of(const Value& value)
 {
@@ -352,4 +354,22 @@ TEST_F(PrefsTest, PrintPlayConditionsNamesThePlayState)
 		" next_top_media   5  last_timer_nr\t\t -1\n"
 		" playingTitle: 'Song' \n"
 		" playingImage: 2 \n");
+}
+
+
+TEST_F(PrefsTest, EnviromentFindsOrMakesTheLanguageFolder)
+{
+	app_info info;
+	ASSERT_EQ(test::TheApplication().GetAppInfo(&info), B_OK);
+	const std::filesystem::path folder
+		= std::filesystem::path(BPath(&info.ref).Path()).parent_path() / "Language";
+	std::filesystem::remove_all(folder);
+
+	Prefs* const prefs = Prefs::getSTPrefs();
+	EXPECT_NE(prefs->fLanguagePath.InitCheck(), B_OK);
+	EXPECT_EQ(test::OutputOf([prefs] { prefs->Enviroment(); }),
+		">> build: " + folder.string() + "\n");
+	EXPECT_TRUE(std::filesystem::is_directory(folder));
+	EXPECT_STREQ(prefs->fLanguagePath.Path(), folder.c_str());
+	EXPECT_EQ(test::OutputOf([prefs] { prefs->Enviroment(); }), ">> OK: " + folder.string() + "\n");
 }

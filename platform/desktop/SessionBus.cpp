@@ -1,13 +1,13 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
 #include "platform/desktop/SessionBus.h"
 
+#include <chrono>
 #include <memory>
 #include <mutex>
-#include <stdlib.h>
-#include <string.h>
-#include <unistd.h>
 
 #include <QStringList>
+
+#include "platform/desktop/BusAddress.h"
 
 
 namespace hosted {
@@ -21,6 +21,9 @@ constexpr char kBusPath[] = "/org/freedesktop/DBus";
 struct State {
 	std::mutex lock;
 	std::unique_ptr<QDBusConnection> connection;
+	// Where there is no bus, not every question looks for one again.
+	std::string failedAddress;
+	std::chrono::steady_clock::time_point failed;
 };
 
 // Lives as long as the process: other threads may still ask while static objects are destroyed.
@@ -32,23 +35,10 @@ state()
 }
 
 
-// Without an address the bus's library would start a bus of its own, which nobody else is on.
-bool
-has_address()
-{
-	const char* address = getenv("DBUS_SESSION_BUS_ADDRESS");
-	if (address != nullptr && address[0] != '\0')
-		return true;
-	const char* folder = getenv("XDG_RUNTIME_DIR");
-	return folder != nullptr && folder[0] != '\0'
-		&& access((std::string(folder) + "/bus").c_str(), R_OK | W_OK) == 0;
-}
-
-
 std::unique_ptr<QDBusConnection>
 connect()
 {
-	if (!has_address())
+	if (!IsBusAnswering(SessionBusAddress()))
 		return nullptr;
 	auto connection = std::make_unique<QDBusConnection>(
 		QDBusConnection::connectToBus(QDBusConnection::SessionBus, QLatin1String(kConnectionName)));
@@ -86,6 +76,17 @@ ask_bus(const char* method, const QVariantList& arguments = {})
 }
 
 
+bool
+is_worth_trying(const State& shared)
+{
+	constexpr std::chrono::seconds kPause(30);
+	const std::string address = SessionBusAddress();
+	return !address.empty()
+		&& (address != shared.failedAddress
+			|| std::chrono::steady_clock::now() - shared.failed > kPause);
+}
+
+
 // Holds its own reference, so that a Disconnect() meanwhile does no harm.
 std::unique_ptr<QDBusConnection>
 current()
@@ -96,8 +97,13 @@ current()
 		shared.connection.reset();
 		QDBusConnection::disconnectFromBus(QLatin1String(kConnectionName));
 	}
-	if (shared.connection == nullptr)
+	if (shared.connection == nullptr && is_worth_trying(shared)) {
 		shared.connection = connect();
+		if (shared.connection == nullptr) {
+			shared.failedAddress = SessionBusAddress();
+			shared.failed = std::chrono::steady_clock::now();
+		}
+	}
 	if (shared.connection == nullptr)
 		return nullptr;
 	return std::make_unique<QDBusConnection>(*shared.connection);

@@ -99,13 +99,21 @@ SessionDesk::_Appeared(const std::string& name)
 void
 SessionDesk::_Vanished(const std::string& name)
 {
+	AppIdentity identity;
+	RunningApp program;
+	if (!ParseAppName(name, &identity))
+		return;
+	// Also of one that ended before it was looked at somebody may wait for an answer; but a name
+	// that somebody else made up says nothing about a program that is still there.
+	if (!FindRunningProgram(identity.team, &program)) {
+		ForgetActivityOf(identity.team);
+		TeamIsGone(identity.team);
+	}
 	const auto found = fSeen.find(name);
 	if (found == fSeen.end())
 		return;
-	const RunningApp program = found->second;
+	program = found->second;
 	fSeen.erase(found);
-	ForgetActivityOf(program.identity.team);
-	TeamIsGone(program.identity.team);
 	NotifyWatchers(B_SOME_APP_QUIT, program);
 }
 

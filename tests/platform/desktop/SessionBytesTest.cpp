@@ -2,16 +2,21 @@
 // What strangers on the session bus can do to a program: nothing.
 #include <gtest/gtest.h>
 #include <random>
+#include <stdio.h>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <Messenger.h>
 #include <Roster.h>
 
 #include "platform/app/Transport.h"
+#include "platform/desktop/BusAddress.h"
 #include "platform/desktop/BusObject.h"
 #include "platform/desktop/RunningApps.h"
 #include "platform/desktop/SessionBus.h"
 #include "tests/platform/desktop/SessionApp.h"
+#include "tests/support/TempFolder.h"
 
 using hosted::kObjectInterface;
 using hosted::kObjectPath;
@@ -205,4 +210,33 @@ TEST(SessionWithout, ProgramRunsAndSaysSoOnce)
 		ASSERT_TRUE(peer.WaitForEnd(&status));
 		EXPECT_EQ(status, 0);
 	}
+}
+
+
+TEST(SessionWithout, ABusThatHangsHoldsUpNobody)
+{
+	test::TempFolder folder;
+	const std::string path = folder / "bus";
+	sockaddr_un name = {};
+	name.sun_family = AF_UNIX;
+	snprintf(name.sun_path, sizeof(name.sun_path), "%s", path.c_str());
+	const int listener = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+	ASSERT_EQ(bind(listener, reinterpret_cast<const sockaddr*>(&name), sizeof(name)), 0);
+	ASSERT_EQ(listen(listener, 5), 0);
+	test::Program peer({test::ProgramPath("kit-peer")},
+		{"DBUS_SESSION_BUS_ADDRESS=unix:path=" + path, "PEER_ALONE=1"});
+	EXPECT_TRUE(peer.WaitForLine("ended", std::chrono::seconds(15)));
+	close(listener);
+}
+
+
+TEST(BusAddress, IsUnderstood)
+{
+	const std::string own = hosted::SessionBusAddress();
+	EXPECT_TRUE(hosted::IsBusAnswering(own)) << own;
+	EXPECT_TRUE(hosted::IsBusAnswering("unix:path=/nonexistent;" + own));
+	EXPECT_FALSE(hosted::IsBusAnswering(""));
+	EXPECT_FALSE(hosted::IsBusAnswering("unix:path=/nonexistent%20bus,guid=1"));
+	EXPECT_FALSE(hosted::IsBusAnswering("unix:guid=1,abstract=no-such-name"));
+	EXPECT_FALSE(hosted::IsBusAnswering("unix:path=" + std::string(300, 'x')));
 }

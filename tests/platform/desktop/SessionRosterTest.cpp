@@ -192,6 +192,7 @@ TEST(Watching, SuddenDeathIsNoticed)
 	SessionApp& app = SessionApp::Get();
 	Peer peer;
 	ASSERT_TRUE(peer.IsReady());
+	EXPECT_TRUE(be_roster->IsRunning(kPeerSignature));
 	Watch watch(B_REQUEST_QUIT);
 	peer.Kill(SIGKILL);
 	EXPECT_TRUE(app.WaitFor(notice_of(B_SOME_APP_QUIT, peer.Id())));
@@ -206,6 +207,7 @@ TEST(Watching, OnlyTheWantedIsNoticed)
 	EXPECT_EQ(be_roster->StartWatching(be_app_messenger, B_REQUEST_QUIT), B_OK);
 	Peer peer;
 	ASSERT_TRUE(peer.IsReady());
+	EXPECT_TRUE(be_roster->IsRunning(kPeerSignature));
 	peer.Kill(SIGKILL);
 	EXPECT_TRUE(app.WaitFor(notice_of(B_SOME_APP_QUIT, peer.Id())));
 	EXPECT_FALSE(app.WaitFor(

@@ -325,10 +325,12 @@ RefineType(const FileContents& contents, const ExtensionType& extension)
 {
 	switch (extension.lookInto) {
 		case LookInto::kOgg:
-			if (TracksOfOgg(contents) == Tracks::kVideo)
-				return "video/ogg";
-			return contents.Size() > 0 && TracksOfOgg(contents) == Tracks::kAudio ? "audio/ogg"
-																				  : extension.type;
+		{
+			const Tracks tracks = TracksOfOgg(contents);
+			if (tracks == Tracks::kUnknown)
+				return extension.type;
+			return tracks == Tracks::kVideo ? "video/ogg" : "audio/ogg";
+		}
 		case LookInto::kMatroska:
 			if (TracksOfMatroska(contents) != Tracks::kAudio)
 				return extension.type;

@@ -167,7 +167,8 @@ to_join(join_mode join)
 		case B_BUTT_JOIN:
 			return Qt::BevelJoin;
 		default:
-			return Qt::MiterJoin;
+			// Beyond the limit it bevels, where the other kind would leave a spike.
+			return Qt::SvgMiterJoin;
 	}
 }
 

@@ -188,6 +188,19 @@ TEST(RoundRect, StrokeHasTheExtentOfStrokeRect)
 }
 
 
+// The lines between such corners run backwards, and must not end in spikes.
+TEST(RoundRect, CornersThatDoNotFitStayInTheRectangle)
+{
+	Canvas canvas(40, 40);
+	canvas.view->StrokeRoundRect(BRect(15, 5, 24, 34), 6, 6);
+	const Picture shape = canvas.Shape();
+	for (size_t y = 0; y < shape.size(); y++) {
+		EXPECT_EQ(shape[y].substr(0, 15), std::string(15, '.')) << y;
+		EXPECT_EQ(shape[y].substr(25), std::string(15, '.')) << y;
+	}
+}
+
+
 TEST(RoundRect, WideStrokeLiesAroundTheRectangle)
 {
 	Canvas canvas(20, 20);

@@ -197,7 +197,14 @@ void
 BWindow::SetDefaultButton(BButton* button)
 {
 	BAutolock lock(this);
+	BButton* before = DefaultButton();
+	if (button == before)
+		return;
 	fHost->fDefaultButton = button;
+	if (before != nullptr)
+		before->MakeDefault(false);
+	if (button != nullptr)
+		button->MakeDefault(true);
 }
 
 

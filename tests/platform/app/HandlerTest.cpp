@@ -209,7 +209,10 @@ TEST(HandlerEnd, LeavesItsRunningLooper)
 		looper->AddHandler(handler);
 		looper->Unlock();
 		BMessenger(handler).SendMessage('test');
+		// Locked, because it may be handling that message.
+		ASSERT_TRUE(looper->Lock());
 		delete handler;
+		looper->Unlock();
 	}
 	ASSERT_TRUE(looper->Lock());
 	EXPECT_EQ(looper->CountHandlers(), 1);

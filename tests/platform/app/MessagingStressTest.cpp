@@ -153,8 +153,11 @@ TEST(MessagingStress, HandlersComeAndGo)
 				const BMessenger messenger(&handler);
 				messenger.SendMessage('test');
 				messenger.SendMessage('test');
-				if (handler.LockLooper())
-					handler.UnlockLooper();
+				// It may be handling one of them just now.
+				if (handler.LockLooper()) {
+					looper->RemoveHandler(&handler);
+					looper->Unlock();
+				}
 			}
 		});
 	}

@@ -372,6 +372,8 @@ BWindow::SetTitle(const char* title)
 	BAutolock lock(this);
 	fHost->fTitle = title == nullptr ? "" : title;
 	const std::string& text = fHost->fTitle;
+	// Scripts find a window by its title.
+	SetName(text.c_str());
 	fHost->fNative->Change([&text](hosted::WindowWishes& wishes) { wishes.title = text; });
 }
 

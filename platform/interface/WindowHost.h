@@ -40,6 +40,7 @@ public:
 	BPoint ScreenOrigin() const override;
 	bool GetMouse(BPoint* hostWhere, uint32* buttons, bool checkMessageQueue) override;
 	void SetMouseEventMask(BView& view, uint32 mask, uint32 options) override;
+	void DragMessage(BView& view, BMessage& message, BRect rect, BHandler* replyTo) override;
 	void PulseNeeded() override;
 	void ViewDetached(BView& view) override;
 	void FocusChanged(BView* view) override;

@@ -15,6 +15,7 @@
 
 #include "platform/interface/InputFields.h"
 #include "platform/interface/ViewPrivate.h"
+#include "platform/screen/NativeWindow.h"
 
 
 namespace hosted {
@@ -251,6 +252,20 @@ WindowHost::SetMouseEventMask(BView& view, uint32 mask, uint32)
 		return;
 	fMaskView = mask == 0 ? nullptr : &view;
 	fMask = mask;
+}
+
+
+// The desktop draws nothing for it: the views under the pointer are told with each move.
+void
+WindowHost::DragMessage(BView& view, BMessage& message, BRect rect, BHandler* replyTo)
+{
+	BPoint screenWhere;
+	uint32 buttons = 0;
+	get_mouse(&screenWhere, &buttons);
+	if (buttons == 0)
+		return;
+	const BPoint where = FromHost(view, screenWhere - fFrame.LeftTop());
+	fNative->StartDrag({message, where - rect.LeftTop(), BMessenger(replyTo)});
 }
 
 

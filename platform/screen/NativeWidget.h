@@ -73,6 +73,9 @@ private:
 	void _ReportFrame();
 	void _SendKeys(QKeyEvent* event, bool down);
 	void _SendPointer(uint32 what, QMouseEvent* event);
+	void _SendDrop(BMessage& message, const QPointF& where, BPoint offset,
+		const BMessenger& replyTo);
+	void _EndViewDrag(QMouseEvent* event);
 	void _SendPointerMessage(BMessage& message, const QPointF& where, Qt::MouseButtons buttons);
 
 private:

@@ -91,7 +91,34 @@ NativeWidget::_SendPointer(uint32 what, QMouseEvent* event)
 	if (!isKnown)
 		return;
 	BMessage message(what);
+	const std::shared_ptr<const ViewDrag> drag = fWindow->Drag();
+	if (drag != nullptr && what == B_MOUSE_MOVED)
+		message.AddMessage("be:drag_message", &drag->message);
+	// What was left over from a release that nobody saw.
+	if (what == B_MOUSE_DOWN)
+		fWindow->EndDrag();
 	_SendPointerMessage(message, event->position(), event->buttons());
+	if (drag != nullptr && what == B_MOUSE_UP && event->buttons() == Qt::NoButton)
+		_EndViewDrag(event);
+}
+
+
+// Drops what a view of this window has dragged, if the pointer is over a window of the program.
+void
+NativeWidget::_EndViewDrag(QMouseEvent* event)
+{
+	const std::shared_ptr<const ViewDrag> drag = fWindow->Drag();
+	fWindow->EndDrag();
+	NativeWidget* target = this;
+	if (!rect().contains(event->position().toPoint())) {
+		target = dynamic_cast<NativeWidget*>(
+			QApplication::topLevelAt(event->globalPosition().toPoint()));
+	}
+	if (target == nullptr || target->IsBlocked())
+		return;
+	BMessage message(drag->message);
+	target->_SendDrop(message, target->mapFromGlobal(mapToGlobal(event->position())), drag->offset,
+		drag->replyTo);
 }
 
 
@@ -268,6 +295,19 @@ NativeWidget::dragMoveEvent(QDragMoveEvent* event)
 
 
 void
+NativeWidget::_SendDrop(BMessage& message, const QPointF& where, BPoint offset,
+	const BMessenger& replyTo)
+{
+	message.AddPoint("_drop_point_", to_point(ToScreen(where)));
+	message.AddPoint("_drop_offset_", offset);
+	MessageAccess::EnvelopeOf(message).dropped = true;
+	message.AddInt32(kInputKind, kInputDrop);
+	message.AddPoint(kInputWhere, to_point(where));
+	fWindow->Send(message, replyTo);
+}
+
+
+void
 NativeWidget::dropEvent(QDropEvent* event)
 {
 	AdoptModifiers(event->modifiers());
@@ -276,15 +316,9 @@ NativeWidget::dropEvent(QDropEvent* event)
 		event->ignore();
 		return;
 	}
-	const BPoint screenWhere = to_point(ToScreen(event->position()));
 	message.AddInt64("when", system_time());
 	message.AddInt32("buttons", haiku_buttons(event->buttons()));
-	message.AddPoint("_drop_point_", screenWhere);
-	message.AddPoint("_drop_offset_", BPoint(0, 0));
-	MessageAccess::EnvelopeOf(message).dropped = true;
-	message.AddInt32(kInputKind, kInputDrop);
-	message.AddPoint(kInputWhere, to_point(event->position()));
-	fWindow->Send(message);
+	_SendDrop(message, event->position(), BPoint(0, 0), BMessenger());
 	event->setDropAction(Qt::CopyAction);
 	event->accept();
 }

@@ -4,8 +4,6 @@
 #include <string.h>
 #include <utility>
 
-#include <Message.h>
-
 #include "platform/screen/DisplayThread.h"
 #include "platform/screen/NativeWidget.h"
 
@@ -86,6 +84,30 @@ NativeWindow::Close()
 
 
 void
+NativeWindow::StartDrag(const ViewDrag& drag)
+{
+	std::lock_guard<std::mutex> lock(fMutex);
+	fDrag = std::make_shared<const ViewDrag>(drag);
+}
+
+
+std::shared_ptr<const ViewDrag>
+NativeWindow::Drag() const
+{
+	std::lock_guard<std::mutex> lock(fMutex);
+	return fDrag;
+}
+
+
+void
+NativeWindow::EndDrag()
+{
+	std::lock_guard<std::mutex> lock(fMutex);
+	fDrag.reset();
+}
+
+
+void
 NativeWindow::Show(const QImage& picture, const QRegion& region)
 {
 	{
@@ -118,12 +140,12 @@ NativeWindow::Picture() const
 
 
 void
-NativeWindow::Send(BMessage& message)
+NativeWindow::Send(BMessage& message, const BMessenger& replyTo)
 {
 	// The lock makes sure that a window that is being deleted gets nothing more.
 	std::lock_guard<std::mutex> lock(fMutex);
 	if (!fIsClosed)
-		fTarget.SendMessage(&message, BMessenger(), 0);
+		fTarget.SendMessage(&message, replyTo, 0);
 }
 
 

@@ -13,10 +13,10 @@
 #include <QRegion>
 #include <QSize>
 
+#include <Message.h>
 #include <Messenger.h>
+#include <Point.h>
 #include <SupportDefs.h>
-
-class BMessage;
 
 
 namespace hosted {
@@ -40,6 +40,14 @@ struct WindowWishes {
 	uint32 flags = 0;
 };
 
+// What a view of the window has begun to drag.
+struct ViewDrag {
+	BMessage message;
+	// The pointer's place in what is dragged.
+	BPoint offset;
+	BMessenger replyTo;
+};
+
 /*!	A window on the desktop, as seen by the window's own thread: wishes and pixels go in, messages
 	come out to the target.
 
@@ -58,13 +66,20 @@ public:
 	// Takes the window off the desktop. No message is sent after this call has returned.
 	void Close();
 
+	// Lets what is dragged follow the pointer until the button is released: over a window of this
+	// program it is dropped then.
+	void StartDrag(const ViewDrag& drag);
+
 	// Copies the region of the picture and shows it.
 	void Show(const QImage& picture, const QRegion& region);
 	// A copy of the picture as shown last.
 	QImage Picture() const;
 
 	// For the display thread only.
-	void Send(BMessage& message);
+	void Send(BMessage& message, const BMessenger& replyTo = BMessenger());
+	// Null if nothing is dragged.
+	std::shared_ptr<const ViewDrag> Drag() const;
+	void EndDrag();
 	void Paint(const std::function<void(const QImage& picture)>& paint) const;
 	// Null before the first show and after the close.
 	NativeWidget* Widget() const;
@@ -81,6 +96,7 @@ private:
 	bool fIsClosed = false;
 	bool fApplyPosted = false;
 	bool fRepaintPosted = false;
+	std::shared_ptr<const ViewDrag> fDrag;
 	QImage fPicture;
 	// No QRegion, whose data two threads would share.
 	std::vector<QRect> fNewPixels;

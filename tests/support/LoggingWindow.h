@@ -87,7 +87,10 @@ public:
 	void MessageReceived(BMessage* message) override
 	{
 		fLog.Keep(*message);
-		BView::MessageReceived(message);
+		if (message->WasDropped() && message->what == 'drag')
+			message->SendReply('took');
+		else
+			BView::MessageReceived(message);
 	}
 
 	void MouseDown(BPoint) override
@@ -95,6 +98,8 @@ public:
 		_Add("down");
 		if (mask != 0)
 			SetMouseEventMask(mask);
+		if (dragged != nullptr)
+			DragMessage(dragged, BRect(2, 3, 12, 13));
 	}
 
 	void MouseUp(BPoint) override { _Add("up"); }
@@ -118,6 +123,8 @@ public:
 
 	rgb_color color = {10, 20, 30, 255};
 	uint32 mask = 0;
+	// Dragged by a press; the test's own.
+	BMessage* dragged = nullptr;
 
 private:
 	void _Add(const char* what) { fLog.Add(std::string(Name()) + ": " + what); }

@@ -367,6 +367,60 @@ TEST_F(PointerInput, TheGlobalPlaceIsOnTheScreen)
 }
 
 
+// Drags of the program's own.
+
+
+TEST_F(PointerInput, AViewDragsAMessageToAnother)
+{
+	BMessage dragged('drag');
+	dragged.AddString("text", "something");
+	fLeft->dragged = &dragged;
+	Press(10, 10);
+	Move(20, 10, Qt::LeftButton);
+	BMessage inMove;
+	EXPECT_EQ(fLog.Last(B_MOUSE_MOVED).FindMessage("be:drag_message", &inMove), B_OK);
+	EXPECT_STREQ(inMove.GetString("text"), "something");
+	Release(170, 70);
+	EXPECT_EQ(fLog.Messages('drag').size(), 1u);
+	BMessage dropped = fLog.Last('drag');
+	EXPECT_TRUE(dropped.WasDropped());
+	BPoint offset;
+	EXPECT_EQ(dropped.DropPoint(&offset), BPoint(230, 140));
+	EXPECT_EQ(offset, BPoint(8, 7));
+	// The answer goes to the view that dragged.
+	test::Settle(fWindow);
+	EXPECT_EQ(fLog.Messages('took').size(), 1u);
+
+	fLeft->dragged = nullptr;
+	Press(10, 10);
+	Release(170, 70);
+	EXPECT_EQ(fLog.Messages('drag').size(), 1u);
+}
+
+
+TEST_F(PointerInput, ADragMayEndInAnotherWindow)
+{
+	test::Log otherLog;
+	LoggingWindow* other = new LoggingWindow(BRect(400, 300, 499, 399), otherLog);
+	other->Show();
+	test::Settle(other);
+	BMessage dragged('drag');
+	fLeft->dragged = &dragged;
+	Press(10, 10);
+	Release(350, 240);
+	test::Settle(other);
+	EXPECT_EQ(otherLog.Messages('drag').size(), 1u);
+	EXPECT_TRUE(fLog.Messages('drag').empty());
+
+	// Beside all windows nothing comes of it.
+	Press(10, 10);
+	Release(340, 5);
+	test::Settle(other);
+	EXPECT_EQ(otherLog.Messages('drag').size(), 1u);
+	test::CloseWindow(other);
+}
+
+
 // Modal windows.
 
 

@@ -52,12 +52,14 @@ protected:
 			fFolder = fTemporary.MakeFolder("files");
 		}
 		fIsReal = real != nullptr;
+		fDataBefore = getenv("XDG_DATA_HOME");
 		setenv("XDG_DATA_HOME", fTemporary.MakeFolder("data").c_str(), 1);
 		fPath = Write("file");
 	}
 	void TearDown() override
 	{
 		ExtendedAttributes::SetRefusal(0);
+		setenv("XDG_DATA_HOME", fDataBefore.c_str(), 1);
 		std::error_code error;
 		fs::remove_all(fFolder, error);
 	}
@@ -88,6 +90,7 @@ protected:
 	}
 
 	test::TempFolder fTemporary;
+	std::string fDataBefore;
 	std::string fFolder;
 	std::string fPath;
 	bool fIsReal = false;

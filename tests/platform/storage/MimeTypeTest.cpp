@@ -36,6 +36,9 @@ public:
 		mkdir(folder.c_str(), 0755);
 		fEntry = folder + "/audacious.desktop";
 		FILE* const file = fopen(fEntry.c_str(), "w");
+		EXPECT_NE(file, nullptr) << fEntry;
+		if (file == nullptr)
+			return;
 		fprintf(file,
 			"[Desktop Entry]\nType=Application\nName=Audacious\n"
 			"Exec=%s/audacious %%F\nMimeType=audio/mpeg;audio/flac;\n",

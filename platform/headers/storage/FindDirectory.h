@@ -9,7 +9,7 @@ class BVolume;
 
 
 // Haiku's places. On Linux each stands for the place that has its purpose there.
-typedef enum {
+typedef enum : int {
 	B_DESKTOP_DIRECTORY = 0,
 	B_TRASH_DIRECTORY = 1,
 

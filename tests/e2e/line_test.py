@@ -34,7 +34,8 @@ class Line(unittest.TestCase):
 			self.play(session, program, titles, calls)
 			frame = session.frame(program.window)
 			self.assertEqual(program.close(), 0)
-			self.assertTrue(program.text().rstrip().endswith("-WYN end-"))
+			# A player writes to the same log, and may do so later.
+			self.assertIn("\n-WYN end-\n", program.text())
 			self.check_saved(session, titles)
 			self.check_second_start(session, titles, frame)
 

@@ -1,6 +1,7 @@
 """A running VinyloH in a session, and what a test or a demonstration does to it."""
 
 import os
+import subprocess
 
 from session import wait_for
 
@@ -64,8 +65,15 @@ class Program:
 		self.session.run(["xdotool", "windowsize", "--sync", self.window, str(width), str(height)])
 		wait_for(lambda: self.size() == (width, height), "the new size")
 
+	def has_focus(self):
+		return self.session.output(["xdotool", "getactivewindow"]).strip() == self.window
+
 	def focus(self):
-		self.session.run(["xdotool", "windowactivate", "--sync", self.window])
+		"""Brings the window to the front; a player that has just opened may want to be there, too."""
+		def is_there():
+			self.session.run(["xdotool", "windowactivate", self.window])
+			return self.has_focus()
+		wait_for(is_there, "the focus")
 
 	def drop(self, paths):
 		x, y = self.at(300, 150)
@@ -96,7 +104,15 @@ class Program:
 		self.click_centered_tile()
 
 	def close(self):
+		"""Closes the window through the window manager and returns how the program has ended."""
+		def is_over():
+			if self.process.poll() is None and self.has_focus():
+				self.session.key("alt+F4")
+			try:
+				self.process.wait(2)
+			except subprocess.TimeoutExpired:
+				self.session.run(["xdotool", "windowactivate", self.window])
+			return self.process.poll() is not None
 		self.focus()
-		self.session.key("alt+F4")
-		wait_for(lambda: self.process.poll() is not None, "the end of the program")
+		wait_for(is_over, "the end of the program")
 		return self.process.returncode

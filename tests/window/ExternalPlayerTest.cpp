@@ -1,15 +1,23 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
 #include "window/ExternalPlayer.h"
 
+#include <filesystem>
+
+#include <signal.h>
+#include <spawn.h>
 #include <stdlib.h>
 #include <string.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
+
+#include <Roster.h>
 
 #include "settings/Locations.h"
 #include "settings/Prefs.h"
 #include "tests/support/Output.h"
 #include "tests/support/Popups.h"
+#include "tests/support/Wait.h"
 #include "tests/window/MediaWindowFixture.h"
 
 
@@ -35,6 +43,20 @@ protected:
 			"#!/bin/sh\necho \"player $*\" >> '" + (fFolder / "opened") + "'\n");
 		chmod(path.c_str(), 0755);
 		return path;
+	}
+
+	// Whether a player of whoever runs the tests runs, which must not be closed.
+	static bool IsPlayerRunning()
+	{
+		for (const char* signature : {"application/x-vnd.marcone-soundplay",
+				 "application/x-vnd.RMC.Zenebona", "application/x-vnd.yT-MediaPlayer",
+				 "application/x-vnd.Be.MediaPlayer", "application/x-vnd.YT-MediaPlayer",
+				 "application/x-vnd.yT-AudioTagger", "application/x-vnd.Haiku-MediaPlayer",
+				 "application/x-vnd.videolan-vlc", "application/x-vnd.Me.stampTV"}) {
+			if (be_roster->IsRunning(signature))
+				return true;
+		}
+		return false;
 	}
 
 	std::string Command(const std::string& begin, const std::string& path)
@@ -78,6 +100,8 @@ TEST_F(ExternalPlayer, NoneOfTheMenuIsNoPlayer)
 
 TEST_F(ExternalPlayer, AudioGoesToThePreferredPlayerAfterTheRunningOneWasClosed)
 {
+	if (IsPlayerRunning())
+		GTEST_SKIP() << "a player is running";
 	const std::string player = MakePlayer("player");
 	Prefer(player);
 	const std::string title = MakeTitle("a.mp3");
@@ -184,8 +208,44 @@ TEST_F(ExternalPlayer, QuotedNamesArriveAsTheyAre)
 
 TEST_F(ExternalPlayer, ClosingWithoutAPlayerSendsNothing)
 {
+	if (IsPlayerRunning())
+		GTEST_SKIP() << "a player is running";
 	const std::string output = test::OutputOf([] { ICloseMediaApp(); });
 	EXPECT_EQ(output.find(" - will stop any Audio-App \ncount roster teams: "), 0u);
 	EXPECT_TRUE(contains(output, "\nstop end\n"));
 	EXPECT_FALSE(contains(output, "STOP"));
+}
+
+
+TEST_F(ExternalPlayer, OnlyOneRunningPlayerIsAskedToQuit)
+{
+	if (IsPlayerRunning())
+		GTEST_SKIP() << "a player is running";
+	// Two processes whose executable has the player's name.
+	const std::string player = fFolder / "vlc";
+	std::filesystem::copy_file(std::filesystem::canonical("/bin/sleep"), player);
+	pid_t processes[2];
+	for (pid_t& process : processes) {
+		char* const arguments[]
+			= {const_cast<char*>(player.c_str()), const_cast<char*>("60"), nullptr};
+		ASSERT_EQ(posix_spawn(&process, player.c_str(), nullptr, nullptr, arguments, environ), 0);
+	}
+	ASSERT_TRUE(test::WaitFor([] { return IsPlayerRunning(); }));
+
+	const std::string output = test::OutputOf([] { ICloseMediaApp(); });
+	const std::string stop = " 'application/x-vnd.videolan-vlc'  STOP\n status ";
+	EXPECT_TRUE(contains(output, stop)) << output;
+	EXPECT_EQ(output.find(stop), output.rfind(stop));
+
+	// One of the two has gone.
+	int status;
+	pid_t gone = 0;
+	EXPECT_TRUE(test::WaitFor([&] {
+		gone = waitpid(-1, &status, WNOHANG);
+		return gone > 0;
+	}));
+	const pid_t left = gone == processes[0] ? processes[1] : processes[0];
+	EXPECT_EQ(waitpid(left, &status, WNOHANG), 0);
+	kill(left, SIGKILL);
+	waitpid(left, &status, 0);
 }

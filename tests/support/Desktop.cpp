@@ -57,6 +57,21 @@ ask(const BMessenger& messenger)
 }
 
 
+bool
+drop_on(QWidget& widget, const QPoint& where, QMimeData& data)
+{
+	QDragEnterEvent enter(where, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+	// Qt's own drags start out as refused.
+	enter.ignore();
+	QCoreApplication::sendEvent(&widget, &enter);
+	if (!enter.isAccepted())
+		return false;
+	QDropEvent drop(where, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+	QCoreApplication::sendEvent(&widget, &drop);
+	return drop.isAccepted();
+}
+
+
 void
 send_mouse(BWindow* window, QEvent::Type type, const Pointer& pointer)
 {
@@ -191,20 +206,13 @@ ReleaseKey(BWindow* window, const Key& key)
 
 
 bool
-Drop(BWindow* window, int x, int y, QMimeData& data)
+Drop(BWindow* window, int x, int y, const std::function<void(QMimeData&)>& fill)
 {
 	bool taken = false;
 	OnWidget(window, [&](QWidget& widget) {
-		const QPoint where(x, y);
-		QDragEnterEvent enter(where, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-		// Qt's own drags start out as refused.
-		enter.ignore();
-		QCoreApplication::sendEvent(&widget, &enter);
-		if (!enter.isAccepted())
-			return;
-		QDropEvent drop(where, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-		QCoreApplication::sendEvent(&widget, &drop);
-		taken = drop.isAccepted();
+		QMimeData data;
+		fill(data);
+		taken = drop_on(widget, QPoint(x, y), data);
 	});
 	return taken;
 }
@@ -213,8 +221,12 @@ Drop(BWindow* window, int x, int y, QMimeData& data)
 bool
 DropUrls(BWindow* window, int x, int y, const QByteArray& uriList)
 {
-	RawUrls data(uriList);
-	return Drop(window, x, y, data);
+	bool taken = false;
+	OnWidget(window, [&](QWidget& widget) {
+		RawUrls data(uriList);
+		taken = drop_on(widget, QPoint(x, y), data);
+	});
+	return taken;
 }
 
 } // namespace test

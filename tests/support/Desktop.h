@@ -68,8 +68,9 @@ struct Key {
 void PressKey(BWindow* window, const Key& key);
 void ReleaseKey(BWindow* window, const Key& key);
 
-// Drags the data over the window and drops it. False if the window refused it.
-bool Drop(BWindow* window, int x, int y, QMimeData& data);
+// Drags data, made in the display thread, over the window and drops it. False if the window refused
+// it.
+bool Drop(BWindow* window, int x, int y, const std::function<void(QMimeData&)>& fill);
 bool DropUrls(BWindow* window, int x, int y, const QByteArray& uriList);
 
 } // namespace test

@@ -183,14 +183,14 @@ TEST_F(WindowLife, WhoWaitsForTheLockIsServedOrRefused)
 	fWindow->Show();
 	std::atomic<bool> stop{false};
 	BWindow* window = fWindow;
+	const BMessenger messenger(fWindow);
 	std::vector<std::thread> threads;
 	for (int i = 0; i < 3; i++) {
-		threads.emplace_back([window, &stop]() {
-			while (!stop && window->Lock())
+		threads.emplace_back([window, messenger, &stop]() {
+			while (!stop && messenger.LockTarget())
 				window->Unlock();
 		});
 	}
-	const BMessenger messenger(fWindow);
 	messenger.SendMessage(B_QUIT_REQUESTED);
 	EXPECT_TRUE(WaitForEnd(messenger));
 	stop = true;

@@ -44,7 +44,7 @@ protected:
 TEST_F(WindowLook, OnlyKnownLooksAreTaken)
 {
 	const int known[] = {1, 3, 4, 7, 11, 19, 20, 25};
-	for (int value = 0; value < 64; value++) {
+	for (int value = 0; value < 32; value++) {
 		const window_look before = fWindow->Look();
 		const bool isKnown
 			= std::find(std::begin(known), std::end(known), value) != std::end(known);

@@ -104,9 +104,8 @@ TEST_F(Drops, QtsOwnListOfUrls)
 	test::TempFolder folder;
 	const QString path
 		= QString::fromStdString(folder.Path()) + QString::fromUtf8("/\xc3\xa4 b.mp3");
-	QMimeData data;
-	data.setUrls({QUrl::fromLocalFile(path)});
-	EXPECT_TRUE(test::Drop(fWindow, 30, 40, data));
+	EXPECT_TRUE(test::Drop(fWindow, 30, 40,
+		[&](QMimeData& data) { data.setUrls({QUrl::fromLocalFile(path)}); }));
 	test::Settle(fWindow);
 	entry_ref ref;
 	EXPECT_EQ(fLog.Last(B_SIMPLE_DATA).FindRef("refs", &ref), B_OK);
@@ -125,9 +124,8 @@ TEST_F(Drops, FoldersLoseTheirSlash)
 
 TEST_F(Drops, AColorIsPasted)
 {
-	QMimeData data;
-	data.setColorData(QColor(12, 34, 56));
-	EXPECT_TRUE(test::Drop(fWindow, 30, 40, data));
+	EXPECT_TRUE(test::Drop(fWindow, 30, 40,
+		[](QMimeData& data) { data.setColorData(QColor(12, 34, 56)); }));
 	test::Settle(fWindow);
 	const BMessage message = fLog.Last(B_PASTE);
 	const void* bytes;
@@ -142,9 +140,8 @@ TEST_F(Drops, AColorIsPasted)
 
 TEST_F(Drops, EverythingElseIsRefused)
 {
-	QMimeData text;
-	text.setText(QStringLiteral("file:///tmp/x"));
-	EXPECT_FALSE(test::Drop(fWindow, 30, 40, text));
+	EXPECT_FALSE(test::Drop(fWindow, 30, 40,
+		[](QMimeData& data) { data.setText(QStringLiteral("file:///tmp/x")); }));
 	EXPECT_FALSE(test::DropUrls(fWindow, 30, 40, "http://example.org/a.mp3\r\n"));
 	EXPECT_FALSE(test::DropUrls(fWindow, 30, 40, "file://other.example.org/a.mp3\r\n"));
 	EXPECT_FALSE(test::DropUrls(fWindow, 30, 40, ""));

@@ -381,7 +381,7 @@ TEST(ApplicationScripting, WindowsLoopersAndName)
 		be_app_messenger.SendMessage(&who, &reply);
 		BMessenger found;
 		EXPECT_EQ(reply.FindMessenger("result", &found), B_OK);
-		EXPECT_TRUE(found.IsValid());
+		EXPECT_TRUE(found == windowTarget);
 
 		BMessage absent(B_GET_PROPERTY);
 		absent.AddSpecifier("Window", 7);

@@ -7,16 +7,18 @@
 
 namespace test {
 
+namespace {
+
 std::string
-OutputOf(const std::function<void()>& function)
+written_to(FILE* stream, const std::function<void()>& function)
 {
-	fflush(stdout);
+	fflush(stream);
 	FILE* file = tmpfile();
-	const int before = dup(STDOUT_FILENO);
-	dup2(fileno(file), STDOUT_FILENO);
+	const int before = dup(fileno(stream));
+	dup2(fileno(file), fileno(stream));
 	function();
-	fflush(stdout);
-	dup2(before, STDOUT_FILENO);
+	fflush(stream);
+	dup2(before, fileno(stream));
 	close(before);
 
 	rewind(file);
@@ -29,6 +31,22 @@ OutputOf(const std::function<void()>& function)
 	} while (count > 0);
 	fclose(file);
 	return output;
+}
+
+} // namespace
+
+
+std::string
+OutputOf(const std::function<void()>& function)
+{
+	return written_to(stdout, function);
+}
+
+
+std::string
+ErrorsOf(const std::function<void()>& function)
+{
+	return written_to(stderr, function);
 }
 
 } // namespace test

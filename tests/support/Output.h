@@ -10,6 +10,8 @@ namespace test {
 
 // What the process writes to standard output while the function runs.
 std::string OutputOf(const std::function<void()>& function);
+// The same of standard error.
+std::string ErrorsOf(const std::function<void()>& function);
 
 } // namespace test
 

@@ -6,6 +6,8 @@
 #include <SupportDefs.h>
 
 
+typedef int32 media_node_id;
+
 enum media_type {
 	B_MEDIA_NO_TYPE = -1,
 	B_MEDIA_UNKNOWN_TYPE = 0,

@@ -4,6 +4,7 @@
 
 #include "listview/MxView.h"
 
+#include <algorithm>
 #include <inttypes.h>
 #include <stdio.h>
 
@@ -236,7 +237,7 @@ MxView::CalcContinousPlaytime()
 	printf(" CalcContinousPlaytime:\t ");
 	printf(" ab %ld|", static_cast<long>(nextIndex));
 	float playMinutes = 0;
-	for (int32 index = nextIndex; index <= CountChildren(); index++) {
+	for (int32 index = std::max<int32>(nextIndex, 0); index < CountChildren(); index++) {
 		const MEView* tile = _TileAt(index);
 		if (tile == nullptr)
 			continue;

@@ -199,6 +199,9 @@ MxView::ChildsFromList(bool quiet)
 
 	_RemoveTiles();
 	lastIndex = (MedList != nullptr ? MedList->CountItems() : 0) - 1;
+	// The position is a setting, which may be damaged or older than the list.
+	if (centeredIndex < 0)
+		centeredIndex = 0;
 	if (centeredIndex > lastIndex)
 		centeredIndex = lastIndex;
 	_AddTiles(quiet);

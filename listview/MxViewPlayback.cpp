@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <inttypes.h>
+#include <stdint.h>
 #include <stdio.h>
 
 #include <Bitmap.h>
@@ -67,7 +68,7 @@ MxView::CenterMediaFile(long index, bool startPlay, long step)
 	_PlaceTiles(target, centered);
 	settings->next_top_media = target;
 	nextIndex = target;
-	if (settings->next_top_media == settings->last_top_media)
+	if (settings->next_top_media == settings->last_top_media && target < INT32_MAX)
 		settings->next_top_media++;
 	if (imageIndex >= 0)
 		ShowToppedAlbum(imageIndex);

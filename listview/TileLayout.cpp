@@ -66,7 +66,7 @@ TileColumn::CenteredTile() const
 bool
 TileColumn::IsNear(int32 index, int32 target)
 {
-	return abs(index - target) <= kTilesPerSide;
+	return llabs(static_cast<long long>(index) - target) <= kTilesPerSide;
 }
 
 
@@ -90,8 +90,8 @@ TileColumn::CrossesEdge(BRect frame) const
 int32
 MoveMark(int32 index, int32 step, int32 count)
 {
-	const int32 target = index + step;
+	const int64 target = static_cast<int64>(index) + step;
 	if (target < 1)
 		return 0;
-	return target >= count ? count - 1 : target;
+	return target >= count ? count - 1 : static_cast<int32>(target);
 }

@@ -14,6 +14,7 @@
 #include <Messenger.h>
 #include <OS.h>
 #include <Roster.h>
+#include <Screen.h>
 #include <String.h>
 
 #include "listview/MxView.h"
@@ -36,6 +37,12 @@ static constexpr float kMinWidth = 600;
 static constexpr float kMaxWidth = 1240;
 static constexpr float kMinHeight = 382;
 static constexpr float kMaxHeight = 1024;
+// No desktop reaches farther.
+static constexpr float kFarthestEdge = 32767;
+// Of a window of which less is seen, the user may not get hold.
+static constexpr float kLeastSeen = 32;
+// Stays free above a window that is moved into view.
+static constexpr float kTabHeight = 40;
 static constexpr int32 kListBlockSize = 20;
 static constexpr char kPlaylistName[] = "_koru_media_list";
 static constexpr uint32 kWatchedNotices = B_REQUEST_LAUNCHED | B_REQUEST_QUIT | B_REQUEST_ACTIVATED;
@@ -99,19 +106,48 @@ MEDIA_Window::~MEDIA_Window()
 }
 
 
+// A damaged setting may hold anything, and one that could not be read holds nothing.
+static bool
+is_frame(BRect rect)
+{
+	for (float edge : {rect.left, rect.top, rect.right, rect.bottom}) {
+		if (!std::isfinite(edge) || std::fabs(edge) > kFarthestEdge)
+			return false;
+	}
+	return rect.IsValid();
+}
+
+
 void
 MEDIA_Window::_RestoreFrame()
 {
 	const BRect kept = fSettings->prefs_window_rect;
-	// A damaged setting may hold anything.
-	if (std::isfinite(kept.left) && std::isfinite(kept.top) && std::isfinite(kept.right)
-		&& std::isfinite(kept.bottom)) {
+	if (is_frame(kept)) {
 		MoveTo(kept.LeftTop());
 		ResizeTo(kept.Width(), kept.Height());
 	}
+	_MoveIntoView();
 	printf("me prefs frame: ");
 	kept.PrintToStream();
 	fSettings->PrintPlayConditions();
+}
+
+
+// The screen that the frame belongs to may be gone since it was kept.
+void
+MEDIA_Window::_MoveIntoView()
+{
+	BScreen screen(this);
+	if (!screen.IsValid())
+		return;
+
+	const BRect desktop = screen.Frame();
+	const BRect frame = Frame();
+	const BRect seen = frame & desktop;
+	if (seen.IsValid() && seen.Width() >= kLeastSeen && seen.Height() >= kLeastSeen)
+		return;
+	MoveTo(std::max(desktop.left, std::min(frame.left, desktop.right - frame.Width())),
+		std::max(desktop.top + kTabHeight, std::min(frame.top, desktop.bottom - frame.Height())));
 }
 
 

@@ -77,6 +77,7 @@ public:
 
 private:
 	void _RestoreFrame();
+	void _MoveIntoView();
 	void _SetPlaylistPath();
 	void _CollectFolders();
 	void _UpdateTitle();

@@ -2,18 +2,21 @@
 #include <Screen.h>
 
 #include <InterfaceDefs.h>
+#include <Window.h>
 
 #include "platform/screen/ScreenFrame.h"
 
 
-// There is one screen for the kits, the desktop's first. The window does not matter.
 BScreen::BScreen(screen_id)
 {
 }
 
 
-BScreen::BScreen(BWindow*)
+// The screen that shows most of the window, or else the desktop's first.
+BScreen::BScreen(BWindow* window)
 {
+	if (window != nullptr)
+		fWindowFrame = window->Frame();
 }
 
 
@@ -23,14 +26,14 @@ BScreen::~BScreen() = default;
 bool
 BScreen::IsValid()
 {
-	return hosted::ScreenFrame().IsValid();
+	return hosted::ScreenFrame(fWindowFrame).IsValid();
 }
 
 
 BRect
 BScreen::Frame()
 {
-	return hosted::ScreenFrame();
+	return hosted::ScreenFrame(fWindowFrame);
 }
 
 

@@ -7,8 +7,9 @@
 
 namespace hosted {
 
-// The first screen: (0, 0) to its last pixel. Invalid without a display. Asks the display thread.
-BRect ScreenFrame();
+// The screen that shows most of that frame; if none does, the first: (0, 0) to its last pixel.
+// Invalid without a display. Asks the display thread.
+BRect ScreenFrame(BRect shown = BRect());
 
 } // namespace hosted
 

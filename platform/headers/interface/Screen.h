@@ -25,6 +25,9 @@ public:
 private:
 	BScreen(const BScreen&) = delete;
 	BScreen& operator=(const BScreen&) = delete;
+
+private:
+	BRect fWindowFrame;
 };
 
 #endif // SCREEN_H

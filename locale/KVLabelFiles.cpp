@@ -106,15 +106,15 @@ KVLabel::_ApplyLine(const char* line, int32 labelCount)
 	if (!find_translation(line, &translation))
 		return;
 
-	const size_t length = strlen(line);
+	const std::string_view view(line);
+	const size_t length = view.size();
 	for (int32 index = 0; index < labelCount; index++) {
 		const char* const text = _TextAt(index);
-		char key[kKeySize];
-		snprintf(key, sizeof(key), "%s", text);
 		// A first field of the same length is enough, if the text itself stands anywhere: one line
 		// can meet several labels.
-		const size_t end = strlen(key) + 1;
-		if (end >= length || line[end] != '"' || strstr(line, key) == nullptr)
+		const size_t keyLength = strnlen(text, kKeySize - 1);
+		if (keyLength + 1 >= length || line[keyLength + 1] != '"'
+			|| view.find(std::string_view(text, keyLength)) == std::string_view::npos)
 			continue;
 
 		char* const copy = new char[translation.size() + 1];

@@ -173,18 +173,26 @@ BLooper::SetPreferredHandler(BHandler* handler)
 
 // The lock's methods may be called on a looper that is being deleted or gone: they look it up and
 // touch none of its fields.
+// Looks the looper up by its address alone: it may be gone.
+static status_t
+lock_if_alive(const BLooper* looper, bigtime_t timeout)
+{
+	const std::shared_ptr<LooperCore> core = Registry::Get().LooperFor(looper);
+	return core != nullptr ? core->Lock(timeout) : B_BAD_VALUE;
+}
+
+
 bool
 BLooper::Lock()
 {
-	return LockWithTimeout(B_INFINITE_TIMEOUT) == B_OK;
+	return lock_if_alive(this, B_INFINITE_TIMEOUT) == B_OK;
 }
 
 
 status_t
 BLooper::LockWithTimeout(bigtime_t timeout)
 {
-	const std::shared_ptr<LooperCore> core = Registry::Get().LooperFor(this);
-	return core != nullptr ? core->Lock(timeout) : B_BAD_VALUE;
+	return lock_if_alive(this, timeout);
 }
 
 

@@ -15,6 +15,7 @@
 #include "tests/platform/app/Recorder.h"
 #include "tests/support/Output.h"
 
+using test::LockBlindly;
 using test::QuitLooper;
 using test::Record;
 using test::RecordingHandler;
@@ -346,19 +347,11 @@ TEST(LooperQuit, TwoThreadsAtOnce)
 }
 
 
-// A method of an object that is gone is what is tested here.
-__attribute__((no_sanitize("undefined", "address"))) static bool
-lock_blindly(BLooper* looper)
-{
-	return looper->Lock();
-}
-
-
 TEST(LooperLock, FailsOnADeadLooper)
 {
 	BLooper* looper = new BLooper;
 	looper->Quit();
-	EXPECT_FALSE(lock_blindly(looper));
+	EXPECT_FALSE(LockBlindly(looper));
 }
 
 
@@ -369,7 +362,7 @@ TEST(LooperLock, WaitersAreWokenByTheEnd)
 	std::atomic<int> failed{0};
 	for (int i = 0; i < 4; i++) {
 		waiters.emplace_back([looper, &failed]() {
-			if (!lock_blindly(looper))
+			if (!LockBlindly(looper))
 				failed++;
 		});
 	}

@@ -53,6 +53,8 @@ public:
 	virtual void ShowToppedAlbum(long image);
 	virtual void CalcContinousPlaytime();
 	virtual void PlyBut(long button, BRect frame);
+	// Takes the language that another copy of the program has chosen, and shows it.
+	void FollowLanguage(const BMessage& message);
 
 	// The list to show has been fetched from the window.
 	static bool MedListChecked;

@@ -131,6 +131,15 @@ MxView::_ChangeLanguage(BMessage* message)
 
 
 void
+MxView::FollowLanguage(const BMessage& message)
+{
+	if (langMenu != nullptr)
+		langMenu->FollowLangFile(message, eLabel);
+	Invalidate();
+}
+
+
+void
 MxView::_SendToWindow(BMessage* message)
 {
 	BMessenger(Window()).SendMessage(message);

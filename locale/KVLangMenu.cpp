@@ -255,6 +255,35 @@ KVLangMenu::SetLangFile(BMessage* message)
 }
 
 
+static const char*
+file_of(const BMenuItem* item)
+{
+	const BMessage* const message = item != nullptr ? item->Message() : nullptr;
+	return message != nullptr ? message->GetString("_LangFilePath", nullptr) : nullptr;
+}
+
+
+void
+KVLangMenu::FollowLangFile(const BMessage& message, const char* const* list)
+{
+	const char* chosen;
+	if (fCatalogue == nullptr || message.FindString("_LangFilePath", &chosen) != B_OK)
+		return;
+
+	for (int32 index = 0; index < fItemCount; index++) {
+		const char* const own = file_of(ItemAt(index));
+		if (own == nullptr || strcmp(BPath(own).Leaf(), BPath(chosen).Leaf()) != 0)
+			continue;
+		if (fCatalogue->altLangFile == BPath(own))
+			return;
+		MirrorThisList(list);
+		LoadLangFile(own);
+		_MarkItem(index);
+		return;
+	}
+}
+
+
 void
 KVLangMenu::_MarkItem(int32 number)
 {

@@ -31,6 +31,11 @@ public:
 	virtual void SetLangFile(BMessage* message);
 	virtual void LoadLangFile(const char* path);
 
+	/*!	Takes the language that another copy of the program has chosen, with this copy's own file of
+		that name, on top of the table. Nobody else is told; the language loaded already stays.
+	*/
+	void FollowLangFile(const BMessage& message, const char* const* list);
+
 	BString fAppName;
 	int32 fItemCount = 0;
 	// The item whose file is of the language loaded last; -1 if there is none.

@@ -94,7 +94,7 @@ private:
 	void _ToggleTitleTab();
 	void _ToggleAlwaysInFront();
 	void _TakePreferredPlayer(const BMessage& message);
-	void _LanguageChanged();
+	void _LanguageChanged(const BMessage& message);
 	void _PrintStatus();
 
 	void _HandleListOperation(long operation, const BString& path, long number);

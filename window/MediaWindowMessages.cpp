@@ -104,7 +104,7 @@ MEDIA_Window::_HandleCommand(BMessage* message)
 			_TakePreferredPlayer(*message);
 			return true;
 		case kMsgLanguageChanged:
-			_LanguageChanged();
+			_LanguageChanged(*message);
 			return true;
 	}
 	return false;
@@ -276,8 +276,10 @@ MEDIA_Window::_TakePreferredPlayer(const BMessage& message)
 
 
 void
-MEDIA_Window::_LanguageChanged()
+MEDIA_Window::_LanguageChanged(const BMessage& message)
 {
+	// The list view knows already, unless another copy of the program has told everybody.
+	fListView->FollowLanguage(message);
 	_UpdateTitle();
 	printf(" KV_SIM_LOCALE reloadet\n");
 }

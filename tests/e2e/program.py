@@ -42,7 +42,7 @@ class Program:
 			os.remove(log)
 		self.process = session.start("VinyloH",
 			["stdbuf", "-oL", path or os.environ["VINYLOH"]], log=log)
-		self.window = session.window("_koru_media_list")
+		self.window = session.window("_koru_media_list", process=self.process)
 
 	def text(self):
 		with open(self.log, encoding="utf-8", errors="replace") as file:
@@ -53,6 +53,9 @@ class Program:
 
 	def wait_for_text(self, text, times=1, limit=20):
 		wait_for(lambda: self.count(text) >= times, f"{text!r}, {times} times, in the log", limit)
+
+	def title(self):
+		return self.session.output(["xdotool", "getwindowname", self.window]).strip()
 
 	def size(self):
 		return self.session.frame(self.window)[2:]

@@ -184,10 +184,13 @@ class Session:
 	def run(self, command):
 		return subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL).returncode
 
-	def window(self, title, limit=20.0):
-		"""The id of the visible window whose title matches the regular expression."""
+	def window(self, title, limit=20.0, process=None):
+		"""The id of the visible window, of that process if one is given, whose title matches the
+		regular expression."""
+		of_process = ["--all", "--pid", str(process.pid)] if process else []
 		def find():
-			found = self.output(["xdotool", "search", "--onlyvisible", "--name", title]).split()
+			found = self.output(["xdotool", "search", "--onlyvisible"] + of_process
+				+ ["--name", title]).split()
 			return found[0] if found else None
 		return wait_for(find, f"the window {title!r}", limit)
 

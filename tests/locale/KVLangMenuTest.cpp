@@ -198,6 +198,51 @@ TEST_F(KVLangMenuTest, IncompleteMessagesAreReported)
 }
 
 
+TEST_F(KVLangMenuTest, FollowsAnotherCopyWithItsOwnFile)
+{
+	Write("KORU-Haiku.deDE", "\"Edit\"\t\"Bearbeiten\"\n\"Close\"\t\"Zu\"\n");
+	Write("KORU-Haiku.frFR", "\"Edit\"\t\"Modifier\"\n");
+	KVLangMenu menu("Language", "KORU-Haiku");
+	menu.MirrorThisList(eLabel);
+
+	BMessage message(kMsgLanguageChanged);
+	message.AddString("_LangFilePath", "/elsewhere/Dictionaries/KORU-Haiku.deDE");
+	menu.FollowLangFile(message, eLabel);
+	EXPECT_STREQ(getLabel(6), "Bearbeiten");
+	EXPECT_TRUE(menu.ItemAt(0)->IsMarked());
+	EXPECT_FALSE(menu.ItemAt(3)->IsMarked());
+	// What is loaded already is not loaded again.
+	EXPECT_EQ(test::OutputOf([&] { menu.FollowLangFile(message, eLabel); }), "");
+
+	// The next language starts from the built-in texts.
+	BMessage french = choice(menu, 1);
+	menu.FollowLangFile(french, eLabel);
+	EXPECT_STREQ(getLabel(6), "Modifier");
+	EXPECT_STREQ(getLabel(173), "Close");
+	BMessage none = choice(menu, 3);
+	menu.FollowLangFile(none, eLabel);
+	EXPECT_STREQ(getLabel(6), "Edit");
+	EXPECT_TRUE(menu.ItemAt(3)->IsMarked());
+	EXPECT_STREQ(AskStrSetting("", "none", false), "_non");
+}
+
+
+TEST_F(KVLangMenuTest, FollowsNobodyToAFileThatIsNotInTheMenu)
+{
+	Write("KORU-Haiku.deDE", "\"Edit\"\t\"Bearbeiten\"\n");
+	KVLangMenu menu("Language", "KORU-Haiku");
+	menu.MirrorThisList(eLabel);
+	BMessage message(kMsgLanguageChanged);
+	EXPECT_EQ(test::OutputOf([&] { menu.FollowLangFile(message, eLabel); }), "");
+	message.AddString("_LangFilePath", "/elsewhere/KORU-Remote.deDE");
+	EXPECT_EQ(test::OutputOf([&] { menu.FollowLangFile(message, eLabel); }), "");
+	EXPECT_STREQ(getLabel(6), "Edit");
+	menu.fCatalogue = nullptr;
+	message.ReplaceString("_LangFilePath", "KORU-Haiku.deDE");
+	EXPECT_EQ(test::OutputOf([&] { menu.FollowLangFile(message, eLabel); }), "");
+}
+
+
 TEST_F(KVLangMenuTest, WithoutACatalogueItSaysSo)
 {
 	KVLangMenu menu("Language", "KORU-Haiku");

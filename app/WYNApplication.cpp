@@ -50,11 +50,18 @@ WYNApplication::MessageReceived(BMessage* message)
 			message->PrintToStream();
 			break;
 		default:
-			printf("WYN_App ");
-			message->PrintToStream();
-			BApplication::MessageReceived(message);
+			_HandleUnknown(message);
 			break;
 	}
+}
+
+
+void
+WYNApplication::_HandleUnknown(BMessage* message)
+{
+	printf("WYN_App ");
+	message->PrintToStream();
+	BApplication::MessageReceived(message);
 }
 
 

@@ -24,6 +24,7 @@ public:
 private:
 	void _Forward(BMessage* message);
 	void _ForgetWindow();
+	void _HandleUnknown(BMessage* message);
 };
 
 #endif // WYN_APPLICATION_H

@@ -53,6 +53,10 @@ BMessenger GetLastRosterMessenger(BMessage* message, BString* signature);
 // Shows a text to the user, without waiting for him, or prints it.
 void AnyAlert(const char* text, bool toConsole);
 
+// Shows a text and returns when the user has read it. For what must be told at the end of the
+// program, which would take any other alert with it.
+void AnyAlertAndWait(const char* text);
+
 // Two hexadecimal digits, upper case, after an optional "$"; any other character counts as 0.
 int hex2int(const char* text);
 

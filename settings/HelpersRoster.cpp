@@ -158,16 +158,28 @@ GetLastRosterMessenger(BMessage* message, BString* signature)
 }
 
 
-void
-AnyAlert(const char* text, bool toConsole)
+static BAlert*
+make_alert(const char* text)
 {
-	if (toConsole) {
-		printf("%s\n", text);
-		return;
-	}
-
 	BAlert* const alert
 		= new BAlert("KORU_Alert", text, "OK", nullptr, nullptr, B_WIDTH_AS_USUAL, B_WARNING_ALERT);
 	alert->SetShortcut(0, B_ENTER);
-	alert->Go(nullptr);
+	return alert;
+}
+
+
+void
+AnyAlert(const char* text, bool toConsole)
+{
+	if (toConsole)
+		printf("%s\n", text);
+	else
+		make_alert(text)->Go(nullptr);
+}
+
+
+void
+AnyAlertAndWait(const char* text)
+{
+	make_alert(text)->Go();
 }

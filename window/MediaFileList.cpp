@@ -53,10 +53,7 @@ MEDIA_Window::_HandleListOperation(long operation, const BString& path, long num
 			_AddFile(path);
 			break;
 		case MF_DEC:
-			printf("-MF_DEC\n");
-			fListChanged = true;
-			printf(" remove from mflist  -not implemented \n");
-			fListView->Draw(fListView->Bounds());
+			_TakeOneOut();
 			break;
 		case MF_LOAD:
 			_LoadList();
@@ -168,6 +165,17 @@ MEDIA_Window::_MarkChanged()
 }
 
 
+// Marks the list and takes nothing out; MF_REMOVE does that.
+void
+MEDIA_Window::_TakeOneOut()
+{
+	printf("-MF_DEC\n");
+	fListChanged = true;
+	printf(" remove from mflist  -not implemented \n");
+	fListView->Draw(fListView->Bounds());
+}
+
+
 void
 MEDIA_Window::_LoadList()
 {
@@ -198,7 +206,7 @@ MEDIA_Window::_SaveList()
 		printf(" MP-Style, saving with 'file://'\n");
 	if (!WritePlaylist(fPlaylistPath.Path(), *mflist, fListStyleWithFile)) {
 		printf("'%s' OpenError!\n", fPlaylistPath.Path());
-		AnyAlert(".. can't save the playlist!", false);
+		_TellNotSaved();
 		return;
 	}
 	printf(" save mflist\n");
@@ -209,6 +217,17 @@ MEDIA_Window::_SaveList()
 	fListView->listChanged = false;
 	printf(" save mflist end\n");
 	fListView->Draw(fListView->Bounds());
+}
+
+
+void
+MEDIA_Window::_TellNotSaved()
+{
+	static constexpr char kText[] = ".. can't save the playlist!";
+	if (fIsClosing)
+		AnyAlertAndWait(kText);
+	else
+		AnyAlert(kText, false);
 }
 
 

@@ -91,6 +91,7 @@ MEDIA_Window::MEDIA_Window(BRect frame)
 
 MEDIA_Window::~MEDIA_Window()
 {
+	fIsClosing = true;
 	StopWatching();
 	DoWithMediaFiles(MF_SAVE, nullptr, -1);
 	DoWithMediaFiles(MF_DELETE, nullptr, -1);

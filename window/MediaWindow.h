@@ -85,6 +85,7 @@ private:
 
 	bool _HandleCommand(BMessage* message);
 	void _HandlePlatformMessage(BMessage* message);
+	void _PrintUnknown(const BMessage& message);
 	void _PlayTitle(const BMessage& message);
 	int32 _BackToTop();
 	int32 _BackToList();
@@ -103,8 +104,10 @@ private:
 	void _AddFile(const BString& path);
 	bool _FindListed(const BString& path);
 	void _MarkChanged();
+	void _TakeOneOut();
 	void _LoadList();
 	void _SaveList();
+	void _TellNotSaved();
 	void _PrintList();
 	void _RemoveEntry(int32 number);
 	void _UpdateView();
@@ -126,6 +129,10 @@ private:
 	void _AddFolderOf(const BPath& path);
 	void _AppendFolder(const char* folder);
 	bool _HasFolder(const char* folder) const;
+
+private:
+	// The window is being deleted, and the application ends with it.
+	bool fIsClosing = false;
 };
 
 // Opens the window that tells what happens at start, and hands its text line to the owner.

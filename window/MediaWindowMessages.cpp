@@ -140,10 +140,17 @@ MEDIA_Window::_HandlePlatformMessage(BMessage* message)
 		case B_GET_PROPERTY:
 			break;
 		default:
-			printf("MEDIA_Window::MessageReceived\n");
-			message->PrintToStream();
+			_PrintUnknown(*message);
 			break;
 	}
+}
+
+
+void
+MEDIA_Window::_PrintUnknown(const BMessage& message)
+{
+	printf("MEDIA_Window::MessageReceived\n");
+	message.PrintToStream();
 }
 
 

@@ -17,6 +17,8 @@
 // With the terminator; longer lines are split.
 static constexpr size_t kPieceSize = 1024;
 static constexpr std::string_view kPrefix = "file://";
+// Some programs begin a list in UTF-8 with this.
+static constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
 // A path of this length or less is none.
 static constexpr size_t kTooShort = 5;
 
@@ -86,6 +88,16 @@ make_path(const char* entry, const char* folder)
 }
 
 
+static void
+skip_byte_order_mark(FILE* file)
+{
+	char begin[kByteOrderMark.size()];
+	if (fread(begin, 1, sizeof(begin), file) != sizeof(begin)
+		|| std::string_view(begin, sizeof(begin)) != kByteOrderMark)
+		rewind(file);
+}
+
+
 bool
 ReadPlaylist(const char* path, BList* list, bool* withPrefix)
 {
@@ -99,6 +111,7 @@ ReadPlaylist(const char* path, BList* list, bool* withPrefix)
 
 	BPath folder;
 	BPath(path).GetParent(&folder);
+	skip_byte_order_mark(file);
 	char piece[kPieceSize];
 	while (fgets(piece, sizeof(piece), file) != nullptr) {
 		const char* const entry = PlaylistEntry(piece, withPrefix);

@@ -161,11 +161,15 @@ replace_file(const std::string& target, const struct stat* old, const BList& lis
 			errno = 0;
 		fchmod(descriptor, old->st_mode & 07777);
 	}
+	// With its attributes, so that the program may end at any moment and leave one file or the
+	// other. They are written first: they are part of what is synced.
 	const std::vector<Attribute> attributes = attributes_of(target);
+	set_attributes(fresh, attributes);
 	if (!write_to(descriptor, list, withPrefix) || rename(fresh.c_str(), target.c_str()) != 0) {
 		unlink(fresh.c_str());
 		return false;
 	}
+	// Where attributes belong to a path, they have not come along.
 	set_attributes(target, attributes);
 	sync_folder(folder);
 	return true;
@@ -184,12 +188,15 @@ WritePlaylist(const char* path, const BList& list, bool withPrefix)
 	if (stat(target.c_str(), &status) != 0)
 		return replace_file(target, nullptr, list, withPrefix);
 
-	// A file that may not be written is not replaced either, though its folder would allow it.
-	const int descriptor = open(target.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+	// A file that may not be written is not replaced either, though its folder would allow it; nor
+	// one that cannot be read, since what it holds was never in the list.
+	const bool isFile = S_ISREG(status.st_mode);
+	const int descriptor
+		= open(target.c_str(), (isFile ? O_RDWR : O_WRONLY) | O_NONBLOCK | O_CLOEXEC);
 	if (descriptor < 0)
 		return false;
 	// A device is written itself.
-	if (!S_ISREG(status.st_mode))
+	if (!isFile)
 		return write_to(descriptor, list, withPrefix);
 	close(descriptor);
 	return replace_file(target, &status, list, withPrefix);

@@ -1,4 +1,7 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#include <atomic>
+#include <thread>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -154,6 +157,25 @@ TEST_F(MediaFileList, FailedSaveIsToldAndTriedAgain)
 	rmdir(PlaylistPath().c_str());
 	Do(MF_SAVE);
 	EXPECT_EQ(test::ReadFile(PlaylistPath()), "/music/a.mp3\n");
+}
+
+
+TEST_F(MediaFileList, ClosingWaitsUntilTheUserHasReadOfAFailedSave)
+{
+	Do(MF_ADD, "/music/a.mp3");
+	mkdir(PlaylistPath().c_str(), 0755);
+	std::atomic<bool> isClosed = false;
+	std::thread closing([&] {
+		CloseWindow();
+		isClosed = true;
+	});
+	EXPECT_TRUE(test::WaitForDialog());
+	EXPECT_EQ(test::DialogText(), ".. can't save the playlist!");
+	EXPECT_FALSE(isClosed);
+	EXPECT_TRUE(test::ClickDialogButton("OK"));
+	closing.join();
+	EXPECT_TRUE(isClosed);
+	EXPECT_TRUE(test::WaitForNoDialog());
 }
 
 

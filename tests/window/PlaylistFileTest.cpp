@@ -19,6 +19,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/TempFolder.h"
+#include "tests/support/Unprivileged.h"
 #include "window/PathLists.h"
 
 
@@ -137,6 +138,31 @@ TEST_F(PlaylistFileTest, PathsWithDotsAreTidied)
 }
 
 
+TEST_F(PlaylistFileTest, ByteOrderMarkIsNoPartOfTheFirstLine)
+{
+	EXPECT_EQ(Read("\xef\xbb\xbf#EXTM3U\n/music/\u00fc.mp3\n"), Paths{"/music/\u00fc.mp3"});
+	EXPECT_EQ(Read("\xef\xbb\xbf/music/a.mp3\n"), Paths{"/music/a.mp3"});
+	// Only at the beginning, and only whole.
+	EXPECT_EQ(Read("\xef\xbb/music/a.mp3\n"), Paths{fFolder / "\xef\xbb/music/a.mp3"});
+	EXPECT_EQ(Read("\xef\xbb"), Paths());
+}
+
+
+TEST_F(PlaylistFileTest, WindowsPathsAreTakenAsTheyStand)
+{
+	// They lead nowhere, but stay in the list.
+	EXPECT_EQ(Read("C:\\Music\\Some Song.mp3\r\n\\\\server\\a.mp3\r\n"),
+		(Paths{fFolder / "C:\\Music\\Some Song.mp3", fFolder / "\\\\server\\a.mp3"}));
+}
+
+
+TEST_F(PlaylistFileTest, BlanksBelongToTheName)
+{
+	EXPECT_EQ(Read("/music/a b.mp3 \n /music/c.mp3\n   \n\t\n"),
+		(Paths{"/music/a b.mp3 ", fFolder / " /music/c.mp3"}));
+}
+
+
 TEST_F(PlaylistFileTest, AnyBytesAreTaken)
 {
 	const std::string odd("/music/\xff\xfe\t'\"*.mp3");
@@ -248,6 +274,42 @@ TEST_F(PlaylistFileTest, FileThatMayNotBeWrittenIsNotReplaced)
 	EXPECT_FALSE(written);
 	EXPECT_EQ(test::ReadFile(path), "old\n");
 	EXPECT_EQ(Names(), Paths{"list"});
+}
+
+
+TEST_F(PlaylistFileTest, FileThatCannotBeReadIsNotReplaced)
+{
+	// It could not be loaded, so nothing of it is in the list.
+	const std::string path = fFolder.Write("list", "old\n");
+	chmod(fFolder.Path().c_str(), 0777);
+	ASSERT_EQ(chown(path.c_str(), 65534, 65534), geteuid() == 0 ? 0 : -1);
+	chmod(path.c_str(), 0222);
+	Fill({"/music/a.mp3"});
+	{
+		const test::Unprivileged unprivileged;
+		ASSERT_TRUE(unprivileged.IsDone());
+		EXPECT_FALSE(WritePlaylist(path.c_str(), fList, false));
+	}
+	chmod(path.c_str(), 0666);
+	EXPECT_EQ(test::ReadFile(path), "old\n");
+	EXPECT_EQ(Names(), Paths{"list"});
+}
+
+
+TEST_F(PlaylistFileTest, ReadOnlyFolderLeavesTheOldFile)
+{
+	const std::string path = fFolder.Write("closed/list", "old\n");
+	chmod(path.c_str(), 0666);
+	chmod((fFolder / "closed").c_str(), 0555);
+	Fill({"/music/a.mp3"});
+	{
+		const test::Unprivileged unprivileged;
+		ASSERT_TRUE(unprivileged.IsDone());
+		EXPECT_FALSE(WritePlaylist(path.c_str(), fList, false));
+		EXPECT_FALSE(WritePlaylist((fFolder / "closed/new").c_str(), fList, false));
+	}
+	chmod((fFolder / "closed").c_str(), 0755);
+	EXPECT_EQ(test::ReadFile(path), "old\n");
 }
 
 

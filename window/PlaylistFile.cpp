@@ -75,16 +75,18 @@ tidy_path(std::string_view path)
 }
 
 
-static BPath*
-make_path(const char* entry, const char* folder)
+static void
+add_path(const char* entry, const char* folder, BList* list)
 {
 	const std::string full
 		= entry[0] == '/' ? std::string(entry) : std::string(folder) + "/" + entry;
-	BPath* const path = new BPath(full.c_str());
+	BPath path(full.c_str());
 	// A title whose folder is missing stays in the list.
-	if (path->InitCheck() != B_OK)
-		path->SetTo(tidy_path(full).c_str());
-	return path;
+	if (path.InitCheck() != B_OK)
+		path.SetTo(tidy_path(full).c_str());
+	// What is too long with the playlist's folder has no path at all.
+	if (path.InitCheck() == B_OK)
+		list->AddItem(new BPath(path));
 }
 
 
@@ -116,7 +118,7 @@ ReadPlaylist(const char* path, BList* list, bool* withPrefix)
 	while (fgets(piece, sizeof(piece), file) != nullptr) {
 		const char* const entry = PlaylistEntry(piece, withPrefix);
 		if (entry != nullptr)
-			list->AddItem(make_path(entry, folder.InitCheck() == B_OK ? folder.Path() : "/"));
+			add_path(entry, folder.InitCheck() == B_OK ? folder.Path() : "/", list);
 	}
 	const bool wholly = ferror(file) == 0;
 	fclose(file);

@@ -123,6 +123,12 @@ TEST_F(PlaylistFileTest, LongLinesAreReadInPieces)
 }
 
 
+TEST_F(PlaylistFileTest, RelativeLineThatIsTooLongWithItsFolderIsNoTitle)
+{
+	EXPECT_EQ(Read(std::string(1020, 'a') + "\nb.mp3/\n"), Paths{fFolder / "b.mp3"});
+}
+
+
 TEST_F(PlaylistFileTest, RelativeLinesStartAtThePlaylist)
 {
 	EXPECT_EQ(Read("album/song.mp3\nfile://other.mp3\n"),

@@ -284,22 +284,3 @@ TEST(GetLabel, MakesTheCatalogueOnFirstUse)
 	EXPECT_STREQ(getLabel(47), "using:");
 	KVLabel::labelZgr->DeleteMe();
 }
-
-
-TEST(LabelTable, HoldsTheKnownTexts)
-{
-	EXPECT_EQ(eLabel[kLabelCount], nullptr);
-	EXPECT_STREQ(eLabel[6], "Edit");
-	EXPECT_STREQ(eLabel[19], "19");
-	EXPECT_STREQ(eLabel[49], "-?-");
-	EXPECT_STREQ(eLabel[100], "-?\?\?-");
-	EXPECT_STREQ(eLabel[127], "Thanks, press button on your remote to reassign..\n");
-	EXPECT_STREQ(eLabel[151], "151");
-	EXPECT_STREQ(eLabel[178], "Allways in List:");
-	EXPECT_STREQ(eLabel[179], "not avalible..");
-	EXPECT_STREQ(eLabel[204], "204");
-	EXPECT_STREQ(eLabel[206], "BoxSize: ");
-	EXPECT_STREQ(eLabel[213], " -none-");
-	for (int number = 0; number < kLabelCount; number++)
-		EXPECT_NE(eLabel[number], nullptr) << number;
-}

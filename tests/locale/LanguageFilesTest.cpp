@@ -10,9 +10,12 @@
 #include <utility>
 #include <vector>
 
+#include <Font.h>
+#include <String.h>
 #include <gtest/gtest.h>
 
 #include "locale/Labels.h"
+#include "tests/support/RunningApplication.h"
 
 
 namespace {
@@ -23,6 +26,14 @@ const std::set<int> kShown = {6, 47, 172, 173, 176, 177, 178, 179, 193, 194, 195
 // Has the same text as 200, so every file that replaces the one replaces the other.
 constexpr int kTwinOfPlayers = 212;
 constexpr int kPlayers = 200;
+constexpr int kMissing = 179;
+constexpr int kBoxSize = 206;
+constexpr int kNoPlayer = 213;
+constexpr int kAbout = 214;
+
+constexpr float kLargestTile = 114;
+constexpr float kTileWidth = 490;
+constexpr float kBesidePicture = 59;
 
 constexpr size_t kLongestLine = 254;
 constexpr size_t kFileCount = 14;
@@ -139,19 +150,65 @@ TEST(LanguageFiles, EachLineReplacesTheLabelMeantAndNoOther)
 }
 
 
-// Texts that the program puts other texts behind end in a blank, as the English ones do; those in
-// menus stay short enough for a menu beside the tiles.
-TEST(LanguageFiles, TextsFitTheirPlaces)
+// Texts that the program puts other texts behind end in a blank, as the English ones do.
+TEST(LanguageFiles, TextsJoinOthersAsTheEnglishOnesDo)
 {
 	for (const std::filesystem::path& path : language_files()) {
 		for (const Entry& entry : entries_of(path)) {
-			EXPECT_LE(BString(entry.translation.c_str()).CountChars(), 44) << path << entry.english;
-			if (entry.english == eLabel[kPlayers] || entry.english == eLabel[206]) {
+			if (entry.english == eLabel[kPlayers] || entry.english == eLabel[kBoxSize]) {
 				EXPECT_EQ(entry.translation.back(), ' ') << path;
 			}
-			if (entry.english == eLabel[213] || entry.english == eLabel[214]) {
+			if (entry.english == eLabel[kNoPlayer] || entry.english == eLabel[kAbout]) {
 				EXPECT_EQ(entry.translation.front(), ' ') << path;
 			}
+		}
+	}
+}
+
+
+// The text itself is stored as the preferred player, and a longer one would be run.
+TEST(LanguageFiles, NoPlayerIsShorterThanAnyPlayersPath)
+{
+	for (const std::filesystem::path& path : language_files()) {
+		for (const Entry& entry : entries_of(path)) {
+			if (entry.english == eLabel[kNoPlayer]) {
+				EXPECT_LE(entry.translation.size(), 10u) << path;
+			}
+		}
+	}
+}
+
+
+// Beside the picture of a missing title, left of its number and play time, at the largest size.
+TEST(LanguageFiles, TextOfMissingTitlesFitsTheTile)
+{
+	test::TheApplication();
+	BFont font(be_bold_font);
+	font.SetSize(kLargestTile / 3.5f);
+	BFont small(be_bold_font);
+	small.SetSize(10);
+	const float room
+		= kTileWidth - 1 - kBesidePicture - 5 - small.StringWidth(" AlbumTrack: 100") - 5;
+	for (const std::filesystem::path& path : language_files()) {
+		for (const Entry& entry : entries_of(path)) {
+			if (entry.english == eLabel[kMissing]) {
+				EXPECT_LE(font.StringWidth(entry.translation.c_str()), room) << path;
+			}
+		}
+	}
+}
+
+
+// The context menu stays narrower than a tile, with its mark, its arrow and a size behind the text.
+TEST(LanguageFiles, TextsFitTheMenus)
+{
+	test::TheApplication();
+	BFont font(be_plain_font);
+	font.SetSize(11);
+	for (const std::filesystem::path& path : language_files()) {
+		for (const Entry& entry : entries_of(path)) {
+			EXPECT_LE(BString(entry.translation.c_str()).CountChars(), 44) << path << entry.english;
+			EXPECT_LE(font.StringWidth(entry.translation.c_str()), 300) << path << entry.english;
 		}
 	}
 }

@@ -319,7 +319,8 @@ BWindow::_ActivationMessage(BMessage* message)
 void
 BWindow::MessageReceived(BMessage* message)
 {
-	BLooper::MessageReceived(message);
+	if (!_AnswerProperty(message))
+		BLooper::MessageReceived(message);
 }
 
 

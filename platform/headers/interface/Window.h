@@ -99,6 +99,9 @@ public:
 	virtual void Show();
 	virtual void Hide();
 	thread_id Run() override;
+	// Other programs may get and set "Active", "Frame", "Hidden" and "Title".
+	BHandler* ResolveSpecifier(BMessage* message, int32 index, BMessage* specifier, int32 what,
+		const char* property) override;
 
 	void AddChild(BView* child, BView* before = NULL);
 	bool RemoveChild(BView* child);
@@ -182,6 +185,7 @@ private:
 	void _FrameMessage(BMessage* message);
 	void _ActivationMessage(BMessage* message);
 	bool _DispatchOwn(BMessage* message);
+	bool _AnswerProperty(BMessage* message);
 
 private:
 	std::unique_ptr<hosted::WindowHost> fHost;

@@ -7,6 +7,7 @@
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
+#include <unistd.h>
 
 #include <File.h>
 #include <List.h>
@@ -55,11 +56,12 @@ RunQuoted(const char* command, const char* path)
 }
 
 
-// Whether the shell would take the path as one word that stands for itself.
+// Whether the shell would take the path as one word that stands for itself, and find no program
+// there that may be run though it cannot be read.
 static bool
-is_plain_word(const char* path)
+is_harmless(const char* path)
 {
-	if (path[0] != '/')
+	if (path[0] != '/' || access(path, X_OK) == 0)
 		return false;
 	for (const char* at = path; *at != '\0'; at++) {
 		const unsigned char byte = static_cast<unsigned char>(*at);
@@ -162,7 +164,7 @@ IOpenThisFile(const char* path, bool alert)
 			AnyAlert(command.String(), false);
 		report_command(command);
 		// What is run is the path itself, so it must mean nothing else to the shell.
-		result = is_plain_word(path) ? system(command.String()) : -1;
+		result = is_harmless(path) ? system(command.String()) : -1;
 	}
 	if (result != 0)
 		report_failure(command);

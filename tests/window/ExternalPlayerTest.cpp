@@ -11,8 +11,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <Roster.h>
-
 #include "settings/Locations.h"
 #include "settings/Prefs.h"
 #include "tests/support/Output.h"
@@ -43,20 +41,6 @@ protected:
 			"#!/bin/sh\necho \"player $*\" >> '" + (fFolder / "opened") + "'\n");
 		chmod(path.c_str(), 0755);
 		return path;
-	}
-
-	// Whether a player of whoever runs the tests runs, which must not be closed.
-	static bool IsPlayerRunning()
-	{
-		for (const char* signature : {"application/x-vnd.marcone-soundplay",
-				 "application/x-vnd.RMC.Zenebona", "application/x-vnd.yT-MediaPlayer",
-				 "application/x-vnd.Be.MediaPlayer", "application/x-vnd.YT-MediaPlayer",
-				 "application/x-vnd.yT-AudioTagger", "application/x-vnd.Haiku-MediaPlayer",
-				 "application/x-vnd.videolan-vlc", "application/x-vnd.Me.stampTV"}) {
-			if (be_roster->IsRunning(signature))
-				return true;
-		}
-		return false;
 	}
 
 	std::string Command(const std::string& begin, const std::string& path)
@@ -145,20 +129,6 @@ TEST_F(ExternalPlayer, ProgramIsRunItself)
 	ASSERT_EQ(rename(program.c_str(), (path + "2").c_str()), 0);
 	const std::string output = Open(path);
 	EXPECT_TRUE(contains(output, Command("", path)));
-}
-
-
-TEST_F(ExternalPlayer, FileWithoutATypeGoesToTheFallbackPlayer)
-{
-	const std::string path = fFolder.Write("unknown.zzzz", std::string("\0\1\2\3\xff", 5));
-	const std::string output = Open(path);
-	if (contains(output, " Mime: at.  \n")) {
-		EXPECT_TRUE(contains(output,
-			" ..oops hat keinerlei Filetype - also Mediaplayer..\n"
-				+ Command(std::string(kFallbackPlayer) + " ", path)));
-	} else {
-		EXPECT_TRUE(contains(output, Command(kManager, path)));
-	}
 }
 
 

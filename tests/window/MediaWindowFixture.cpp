@@ -11,6 +11,7 @@
 #include <Entry.h>
 #include <Node.h>
 #include <NodeInfo.h>
+#include <Roster.h>
 #include <TypeConstants.h>
 
 #include "entryview/MEView.h"
@@ -167,6 +168,21 @@ MediaWindowFixture::PathsOf(const BList* list)
 	for (int32 index = 0; list != nullptr && index < list->CountItems(); index++)
 		paths.push_back(PathAt(list, index)->Path());
 	return paths;
+}
+
+
+bool
+MediaWindowFixture::IsPlayerRunning()
+{
+	for (const char* signature : {"application/x-vnd.marcone-soundplay",
+			 "application/x-vnd.RMC.Zenebona", "application/x-vnd.yT-MediaPlayer",
+			 "application/x-vnd.Be.MediaPlayer", "application/x-vnd.YT-MediaPlayer",
+			 "application/x-vnd.yT-AudioTagger", "application/x-vnd.Haiku-MediaPlayer",
+			 "application/x-vnd.videolan-vlc", "application/x-vnd.Me.stampTV"}) {
+		if (be_roster->IsRunning(signature))
+			return true;
+	}
+	return false;
 }
 
 

@@ -44,6 +44,9 @@ protected:
 	// The paths of one of the window's lists.
 	std::vector<std::string> PathsOf(const BList* list);
 
+	// Whether a player of whoever runs the tests runs, which must not be closed.
+	static bool IsPlayerRunning();
+
 	// What the file manager was asked to open, one path a line, when there are that many.
 	std::string Opened(int count);
 

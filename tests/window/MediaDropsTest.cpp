@@ -1,6 +1,10 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#include <chrono>
+
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <GraphicsDefs.h>
 #include <List.h>
 #include <Node.h>
 #include <TypeConstants.h>
@@ -55,6 +59,121 @@ TEST_F(MediaDrops, MediaFilesJoinTheListInTheirOrder)
 	EXPECT_EQ(count_of(output, " ::CheckFolderImages \n"), 3);
 	EXPECT_EQ(Folders(), (Paths{fFolder / "b", fFolder / "a"}));
 	EXPECT_EQ(Window().fListView->CountChildren(), 3);
+}
+
+
+TEST_F(MediaDrops, ThreeAudioFilesAreAddedOneAfterTheOther)
+{
+	const Paths titles = {MakeTitle("c.mp3"), MakeTitle("a.ogg"), MakeTitle("b.flac")};
+	const std::string output = DropFiles(titles);
+	EXPECT_EQ(List(), titles);
+	EXPECT_EQ(count_of(output, " ::CheckFolderImages \n"), 3);
+	size_t at = 0;
+	for (int count = 1; count <= 3; count++) {
+		at = output.find(" add to mflist\n", at + 1);
+		at = output.find(" mflist has " + std::to_string(count) + " items\n", at);
+		EXPECT_NE(at, std::string::npos) << count;
+	}
+}
+
+
+TEST_F(MediaDrops, MixedDropTakesEachForWhatItIs)
+{
+	const std::string title = MakeTitle("one/a.mp3");
+	const std::string album = fFolder.MakeFolder("album");
+	const std::string text = MakeTitle("texts/notes.txt", "text/plain");
+	const std::string video = MakeTitle("two/b.mp4", "video/mp4");
+	const std::string output = DropFiles({title, album, text, video});
+	EXPECT_EQ(List(), (Paths{title, video}));
+	EXPECT_EQ(Folders(), (Paths{fFolder / "one", album, fFolder / "texts", fFolder / "two"}));
+	EXPECT_EQ(count_of(output, ".. Folder added\n"), 2);
+}
+
+
+TEST_F(MediaDrops, TitleBeforeAPlaylistGoesWithTheOldList)
+{
+	const std::string list = fFolder.Write("mine.m3u8", "/music/new.mp3\n");
+	const std::string output = DropFiles({MakeTitle("1.mp3"), list, MakeTitle("2.mp3")});
+	EXPECT_EQ(count_of(output, " add to mflist\n"), 1);
+	EXPECT_EQ(List(), Paths{"/music/new.mp3"});
+}
+
+
+TEST_F(MediaDrops, PlaylistsAreKnownByTheirNames)
+{
+	for (const char* name :
+		{"a.m3u", "b.m3u8", "C.M3U", "with blanks.m3u8", "\u65e5\u672c.m3u", "\xff\xfe.m3u"}) {
+		const std::string list = fFolder.Write(name,
+			"#EXTM3U\r\n#EXTINF:123,Some - Song\r\nfile:///music/a b.mp3\r\n\r\n  \r\n"
+			"C:\\Music\\b.mp3\r\nnear/\u00fc \u041c.mp3\r\n../\xff\xfe.mp3\r\n;end\r\n");
+		DropFiles({list});
+		std::string above = fFolder.Path();
+		above.erase(above.rfind('/'));
+		EXPECT_EQ(List(),
+			(Paths{"/music/a b.mp3", fFolder / "C:\\Music\\b.mp3",
+				fFolder / "near/\u00fc \u041c.mp3", above + "/\xff\xfe.mp3"}));
+		EXPECT_TRUE(Window().fListStyleWithFile);
+		EXPECT_STREQ(Window().Title(), ("using: >> " + list).c_str());
+	}
+}
+
+
+TEST_F(MediaDrops, DroppedPlaylistIsSavedToWithItsPrefixes)
+{
+	const std::string list = fFolder.Write("mine.m3u", "file:///music/a.mp3\r\n/music/b.mp3\r\n");
+	DropFiles({list, MakeTitle("ignored.mp3")});
+	const std::string title = MakeTitle("c.mp3");
+	DropFiles({title});
+	CloseWindow();
+	EXPECT_EQ(test::ReadFile(list),
+		"file:///music/a.mp3\nfile:///music/b.mp3\nfile://" + title + "\n");
+	EXPECT_NE(access(PlaylistPath().c_str(), F_OK), 0);
+}
+
+
+TEST_F(MediaDrops, LinksAndDevicesAreSkipped)
+{
+	const std::string title = fFolder / "link.mp3";
+	ASSERT_EQ(symlink(MakeTitle("a.mp3").c_str(), title.c_str()), 0);
+	const std::string folder = fFolder / "link to a folder";
+	ASSERT_EQ(symlink(fFolder.MakeFolder("album").c_str(), folder.c_str()), 0);
+	const std::string pipe = fFolder / "pipe.mp3";
+	ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+	DropFiles({title, folder, pipe, "/dev/null"});
+	EXPECT_TRUE(List().empty());
+	EXPECT_TRUE(Folders().empty());
+}
+
+
+TEST_F(MediaDrops, ManyFilesAreAddedQuickly)
+{
+	Paths titles;
+	for (int number = 0; number < 300; number++)
+		titles.push_back(MakeTitle(
+			"album " + std::to_string(number / 10) + "/" + std::to_string(number) + ".mp3"));
+	const auto begin = std::chrono::steady_clock::now();
+	DropFiles(titles);
+	EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(30));
+	EXPECT_EQ(List(), titles);
+	EXPECT_EQ(Folders().size(), 30u);
+	EXPECT_EQ(Window().fListView->CountChildren(), 300);
+}
+
+
+TEST_F(MediaDrops, WhatIsNoFileDoesNothing)
+{
+	BMessage text(B_SIMPLE_DATA);
+	text.AddData("text/plain", B_MIME_TYPE, "/music/a.mp3", 12);
+	text.AddString("be:url", "file:///music/a.mp3");
+	EXPECT_EQ(Send(text), "");
+	BMessage color(B_SIMPLE_DATA);
+	const rgb_color red = {255, 0, 0, 255};
+	color.AddData("RGBColor", B_RGB_COLOR_TYPE, &red, sizeof(red));
+	EXPECT_EQ(Send(color), "");
+	BMessage wrong(B_SIMPLE_DATA);
+	wrong.AddString("refs", "/music/a.mp3");
+	EXPECT_EQ(Send(wrong), "");
+	EXPECT_TRUE(List().empty());
 }
 
 

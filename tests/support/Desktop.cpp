@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -102,6 +103,13 @@ Application()
 {
 	static BApplication* sApplication = new BApplication("application/x-vnd.VinyloH-test");
 	return *sApplication;
+}
+
+
+bool
+HasWindowManager()
+{
+	return QGuiApplication::platformName() != QLatin1String("offscreen");
 }
 
 

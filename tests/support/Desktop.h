@@ -26,6 +26,9 @@ namespace test {
 // The one application of a test program, made when it is first asked for and never run.
 BApplication& Application();
 
+// Whether the tests run on a real display, which a window manager looks after.
+bool HasWindowManager();
+
 // Runs the function on the window's widget, in the display thread. False if it has none.
 bool OnWidget(BWindow* window, const std::function<void(QWidget&)>& function);
 

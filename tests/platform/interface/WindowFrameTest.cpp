@@ -230,9 +230,12 @@ TEST_F(WindowFrame, AStormFromBothSidesEndsInAgreement)
 				[round](QWidget& widget) { widget.resize(600 - round, 300 + round % 5); });
 		}
 	}
-	test::Settle(fWindow);
-	const BRect bounds = fWindow->Bounds();
-	EXPECT_EQ(WidgetFrame().size(), QSize(bounds.Width() + 1, bounds.Height() + 1));
+	// A window manager may take its time.
+	EXPECT_TRUE(test::WaitFor([this]() {
+		test::Settle(fWindow);
+		const BRect bounds = fWindow->Bounds();
+		return WidgetFrame().size() == QSize(bounds.Width() + 1, bounds.Height() + 1);
+	}));
 }
 
 

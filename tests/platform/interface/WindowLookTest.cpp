@@ -8,6 +8,7 @@
 
 #include "tests/support/Desktop.h"
 #include "tests/support/LoggingWindow.h"
+#include "tests/support/Wait.h"
 
 using test::Log;
 using test::LoggingWindow;
@@ -181,10 +182,11 @@ TEST_F(WindowLook, MinimizingGoesBothWays)
 {
 	fWindow->Show();
 	fWindow->Minimize(true);
-	test::Settle(fWindow);
-	EXPECT_TRUE(fWindow->IsMinimized());
-	test::OnWidget(fWindow, [](QWidget& widget) { EXPECT_TRUE(widget.isMinimized()); });
+	EXPECT_TRUE(test::WaitFor([this]() {
+		bool seen = false;
+		test::OnWidget(fWindow, [&seen](QWidget& widget) { seen = widget.isMinimized(); });
+		return seen && fWindow->IsMinimized();
+	}));
 	test::OnWidget(fWindow, [](QWidget& widget) { widget.setWindowState(Qt::WindowNoState); });
-	test::Settle(fWindow);
-	EXPECT_FALSE(fWindow->IsMinimized());
+	EXPECT_TRUE(test::WaitFor([this]() { return !fWindow->IsMinimized(); }));
 }

@@ -7,16 +7,33 @@
 
 #include "tests/support/Desktop.h"
 #include "tests/support/LoggingWindow.h"
+#include "tests/support/Wait.h"
 
 
 // A desktop that tells of no workspaces has one.
 TEST(Workspaces, AreOneWithoutAWindowManager)
 {
 	test::Application();
+	if (test::HasWindowManager())
+		GTEST_SKIP() << "There is a window manager.";
 	EXPECT_EQ(count_workspaces(), 1);
 	EXPECT_EQ(current_workspace(), 0);
 	activate_workspace(3);
 	EXPECT_EQ(current_workspace(), 0);
+}
+
+
+TEST(Workspaces, AreTheWindowManagers)
+{
+	test::Application();
+	if (!test::HasWindowManager())
+		GTEST_SKIP() << "There is no window manager.";
+	const int32 count = count_workspaces();
+	ASSERT_GE(count, 2);
+	for (int32 workspace : {count - 1, 0}) {
+		activate_workspace(workspace);
+		EXPECT_TRUE(test::WaitFor([workspace]() { return current_workspace() == workspace; }));
+	}
 }
 
 

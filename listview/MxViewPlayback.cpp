@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <inttypes.h>
+#include <math.h>
 #include <stdint.h>
 #include <stdio.h>
 
@@ -173,7 +174,7 @@ MxView::_DrawTimeBar(BRect bounds, float ratio)
 
 	// The fill is measured against the view's height less 30, not against the track's.
 	BRect rest = track;
-	rest.top = static_cast<int32>(track.bottom - (bounds.bottom - bounds.top - 30) * ratio);
+	rest.top = truncf(track.bottom - (bounds.bottom - bounds.top - 30) * ratio);
 	SetHighColor(progressFillColor);
 	FillRect(rest);
 

@@ -233,13 +233,14 @@ TEST_F(MxViewLayout, PlayingTitlePastTheEndIsTheLast)
 }
 
 
-TEST_F(MxViewLayout, DamagedIndexShowsNoTile)
+TEST_F(MxViewLayout, DamagedIndexShowsTheFirst)
 {
 	Settings().last_top_media = -2147483647 - 1;
 	AddTitles(3);
 	MakeView();
-	EXPECT_TRUE(ShownTiles().empty());
-	EXPECT_EQ(fView->visibleCount, -1);
+	EXPECT_EQ(fView->centeredIndex, 0);
+	EXPECT_EQ(ShownTiles(), (Numbers{0, 1, 2}));
+	fView->nextIndex = -2147483647 - 1;
 	EXPECT_TRUE(
 		contains(test::OutputOf([this] { fView->CalcContinousPlaytime(); }), "     0.00 Times \n"));
 }

@@ -233,6 +233,7 @@ TEST_F(WindowFrame, AStormFromBothSidesEndsInAgreement)
 	// A window manager may take its time.
 	EXPECT_TRUE(test::WaitFor([this]() {
 		test::Settle(fWindow);
+		BAutolock lock(fWindow);
 		const BRect bounds = fWindow->Bounds();
 		return WidgetFrame().size() == QSize(bounds.Width() + 1, bounds.Height() + 1);
 	}));

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <Autolock.h>
 #include <Window.h>
 
 #include "tests/support/Desktop.h"
@@ -180,13 +181,17 @@ TEST_F(WindowLook, TitlesArriveUnchanged)
 
 TEST_F(WindowLook, MinimizingGoesBothWays)
 {
+	const auto windowIsMinimized = [this]() {
+		BAutolock lock(fWindow);
+		return fWindow->IsMinimized();
+	};
 	fWindow->Show();
 	fWindow->Minimize(true);
-	EXPECT_TRUE(test::WaitFor([this]() {
+	EXPECT_TRUE(test::WaitFor([this, windowIsMinimized]() {
 		bool seen = false;
 		test::OnWidget(fWindow, [&seen](QWidget& widget) { seen = widget.isMinimized(); });
-		return seen && fWindow->IsMinimized();
+		return seen && windowIsMinimized();
 	}));
 	test::OnWidget(fWindow, [](QWidget& widget) { widget.setWindowState(Qt::WindowNoState); });
-	EXPECT_TRUE(test::WaitFor([this]() { return !fWindow->IsMinimized(); }));
+	EXPECT_TRUE(test::WaitFor([windowIsMinimized]() { return !windowIsMinimized(); }));
 }

@@ -33,11 +33,39 @@ set_up_once()
 }
 
 
+// A Targa picture without a color table begins like a cursor of no pictures at all.
+bool
+is_targa(QIODevice* device)
+{
+	const QByteArray head = device->peek(18);
+	const uint8_t depth = head.size() == 18 ? static_cast<uint8_t>(head[16]) : 0;
+	return head.startsWith(QByteArray("\0\0\2\0\0\0", 6)) && (depth == 24 || depth == 32);
+}
+
+
 void
 prepare(QImageReader& reader)
 {
-	reader.setDecideFormatFromContent(true);
+	if (is_targa(reader.device()))
+		reader.setFormat("tga");
+	else
+		reader.setDecideFormatFromContent(true);
 	reader.setAutoTransform(true);
+}
+
+
+// A format whose header does not tell the size, such as Apple's icons, has to be decoded for it.
+QSize
+size_of(QImageReader& reader)
+{
+	if (reader.supportsOption(QImageIOHandler::Size))
+		return reader.size();
+	constexpr qint64 kMaxBytes = 16 << 20;
+	if (reader.device()->size() > kMaxBytes)
+		return QSize();
+	const QSize size = reader.read().size();
+	reader.setDevice(reader.device());
+	return reader.device()->seek(0) ? size : QSize();
 }
 
 
@@ -168,7 +196,7 @@ ReadPictureFacts(QIODevice* device, PictureFacts* facts)
 	prepare(reader);
 	if (!reader.canRead())
 		return false;
-	const QSize size = reader.size();
+	const QSize size = size_of(reader);
 	const QImage::Format pixels = reader.imageFormat();
 	if (size.isEmpty() || size.width() > kMaxPictureSide || size.height() > kMaxPictureSide
 		|| int64_t(size.width()) * size.height() * bytes_per_pixel(pixels) > kMaxPicturePixels * 4)

@@ -3,20 +3,28 @@
 
 #include <memory>
 #include <string>
+#include <vector>
+
+#include <Qt>
 
 #include <Bitmap.h>
+#include <Box.h>
 #include <Button.h>
 #include <CheckBox.h>
+#include <Menu.h>
+#include <MenuField.h>
 #include <Message.h>
 #include <NodeInfo.h>
 #include <Roster.h>
 #include <StringView.h>
+#include <TextControl.h>
 #include <TypeConstants.h>
 #include <gtest/gtest.h>
 
 #include "tests/support/RunningApplication.h"
 #include "tests/support/Media.h"
 #include "tests/support/Output.h"
+#include "tests/support/Popups.h"
 #include "tests/support/TempFolder.h"
 
 
@@ -284,6 +292,20 @@ TEST(AnyAlert, PrintsForTheConsole)
 }
 
 
+TEST(AnyAlert, ShowsTheTextWithoutWaitingForTheUser)
+{
+	test::TheApplication();
+	EXPECT_EQ(test::OutputOf([] { AnyAlert("Line\nand /a/path", false); }), "");
+	ASSERT_TRUE(test::WaitForDialog());
+	EXPECT_EQ(test::DialogTitle(), "KORU_Alert");
+	EXPECT_EQ(test::DialogText(), "Line\nand /a/path");
+	EXPECT_EQ(test::DialogButtons(), std::vector<std::string>{"OK"});
+	EXPECT_TRUE(test::DialogHasIcon());
+	EXPECT_TRUE(test::PressKey(Qt::Key_Return));
+	EXPECT_TRUE(test::WaitForNoDialog());
+}
+
+
 TEST(ColorToChilds, ColorsKnownChildrenOnly)
 {
 	test::TheApplication();
@@ -291,17 +313,21 @@ TEST(ColorToChilds, ColorsKnownChildrenOnly)
 	parent.SetViewColor(1, 2, 3);
 	BView* const box = new BCheckBox(BRect(0, 0, 9, 9), "box", "box", nullptr);
 	BView* const text = new BStringView(BRect(0, 0, 9, 9), "text", "text");
+	BView* const control = new BTextControl(BRect(0, 0, 9, 9), "control", "label", "text", nullptr);
+	BView* const field = new BMenuField(BRect(0, 0, 9, 9), "field", "label", new BMenu("menu"));
+	BView* const frame = new BBox(BRect(0, 0, 9, 9), "frame");
+	BView* const button = new BButton(BRect(0, 0, 9, 9), "button", "button", nullptr);
 	BView* const plain = new BView(BRect(0, 0, 9, 9), "plain", 0, 0);
 	BView* const deep = new BButton(BRect(0, 0, 9, 9), "deep", "deep", nullptr);
-	for (BView* child : {box, text, plain})
+	for (BView* child : {box, text, control, field, frame, button, plain})
 		parent.AddChild(child);
 	plain->AddChild(deep);
 	const rgb_color plainColor = plain->ViewColor();
 	const rgb_color deepColor = deep->ViewColor();
 
 	ColorToChilds(&parent);
-	EXPECT_EQ(box->ViewColor(), parent.ViewColor());
-	EXPECT_EQ(text->ViewColor(), parent.ViewColor());
+	for (BView* child : {box, text, control, field, frame, button})
+		EXPECT_EQ(child->ViewColor(), parent.ViewColor()) << child->Name();
 	EXPECT_EQ(plain->ViewColor(), plainColor);
 	EXPECT_EQ(deep->ViewColor(), deepColor);
 	EXPECT_EQ(test::OutputOf([] { ColorToChilds(nullptr); }), "View=NULL\n");
@@ -325,15 +351,4 @@ TEST(ChangeKoruFiletype, CopiesTheNumber)
 	int32 copied = 0;
 	EXPECT_EQ(node.ReadAttr("KORU_TYPE", B_INT32_TYPE, 0, &copied, sizeof(copied)), 4);
 	EXPECT_EQ(copied, 12);
-}
-
-
-TEST(GetAnyAppVersion, FileWithoutVersionIsBad)
-{
-	test::TheApplication();
-	const test::TempFolder folder;
-	const std::string path = folder.Write("program", "");
-	const std::string output = test::OutputOf([&path] { GetAnyAppVersion(path.c_str()); });
-	EXPECT_EQ(output.find("0|0|0|0| [bad]  ::'" + path + "'\n MakeRestartScript "), 0u) << output;
-	EXPECT_NE(output.find("/KORU' path2app\n"), std::string::npos) << output;
 }

@@ -85,11 +85,13 @@ private:
 
 	rgb_color _DrawBackground(BRect bounds);
 	float _DrawPicture(BRect bounds);
-	void _DrawName(BPoint where, float width);
+	void _DrawName(BPoint where);
 	void _DrawMissing(BPoint where);
 	void _DrawNumber(BRect bounds);
 	void _DrawTime(BRect bounds);
-	BString _Truncated(const BString& text, float width) const;
+	BString _NumberText() const;
+	BString _TimeText() const;
+	void _DrawCut(const char* text, BPoint where);
 
 	void _Play();
 	void _BuildMenu();

@@ -2,7 +2,10 @@
 // Drawing of a tile.
 #include "entryview/MEView.h"
 
+#include <algorithm>
+
 #include <Bitmap.h>
+#include <Font.h>
 
 #include "locale/Labels.h"
 #include "settings/Prefs.h"
@@ -11,6 +14,21 @@
 // Where texts begin beside a built-in picture.
 static constexpr float kBesidePicture = 59;
 static constexpr float kRightMargin = 5;
+static constexpr float kLabelFontSize = 10;
+static constexpr float kNumberBaseline = 25;
+static constexpr float kTimeBaseline = 40;
+// Pixels between a line of text and what stands at the right of it.
+static constexpr float kLabelGap = 6;
+static constexpr float kEdgeGap = 10;
+// How far the red star moves the name.
+static constexpr float kStarWidth = 20;
+
+
+static bool
+overlap(float top, float bottom, float otherTop, float otherBottom)
+{
+	return top < otherBottom && otherTop < bottom;
+}
 
 
 void
@@ -30,13 +48,12 @@ MEView::Draw(BRect)
 	SetFontSize(fontSize);
 	float y = bounds.bottom - 3 - fontSize * 0.5f;
 	float x = _DrawPicture(bounds);
-	const float width = bounds.Width() - (x + 10);
-	_DrawName(BPoint(x, y), width);
+	_DrawName(BPoint(x, y));
 
 	y -= fontSize + 4;
 	if (fArtist.Length() > 2) {
 		SetFontSize(fontSize * 0.8f);
-		DrawString(_Truncated(fArtist, width).String(), BPoint(x, y));
+		_DrawCut(fArtist.String(), BPoint(x, y));
 	}
 
 	if (!fFound) {
@@ -98,17 +115,16 @@ MEView::_DrawPicture(BRect bounds)
 
 
 void
-MEView::_DrawName(BPoint where, float width)
+MEView::_DrawName(BPoint where)
 {
-	const BString name = _Truncated(fName, width);
 	if (fBadCharacters) {
 		const rgb_color color = HighColor();
 		SetHighColor(250, 80, 80);
 		DrawString("*", where);
 		SetHighColor(color);
-		where.x += 20;
+		where.x += kStarWidth;
 	}
-	DrawString(name.String(), where);
+	_DrawCut(fName.String(), where);
 }
 
 
@@ -116,10 +132,10 @@ void
 MEView::_DrawMissing(BPoint where)
 {
 	SetHighColor(250, 120, 50);
-	DrawString(getLabel(179), where);
+	_DrawCut(getLabel(179), where);
 	if (fMissingPath.InitCheck() == B_OK) {
 		SetFontSize(9);
-		DrawString(fMissingPath.Path(), BPoint(where.x, 10.5));
+		_DrawCut(fMissingPath.Path(), BPoint(where.x, 10.5));
 	}
 }
 
@@ -127,37 +143,74 @@ MEView::_DrawMissing(BPoint where)
 void
 MEView::_DrawNumber(BRect bounds)
 {
-	BString text;
-	if (fTrack > 0 && SepListSelected)
-		text << " AlbumTrack: " << fTrack;
-	else
-		text << "[" << fNumber + 1 << "]";
-
-	SetFontSize(10);
+	const BString text = _NumberText();
+	SetFontSize(kLabelFontSize);
 	SetHighColor(130, 130, 130);
 	const float x = bounds.right - kRightMargin - StringWidth(text.String());
-	DrawString(text.String(), BPoint(x, bounds.top + 25));
+	DrawString(text.String(), BPoint(x, bounds.top + kNumberBaseline));
 }
 
 
 void
 MEView::_DrawTime(BRect bounds)
 {
-	BString text(" >|Stop");
-	if (fLengthCode != 0)
-		text.SetToFormat(" %ld:%02ld ", static_cast<long>(fMinutes), static_cast<long>(fSeconds));
-	else
+	const BString text = _TimeText();
+	if (fLengthCode == 0)
 		SetHighColor(200, 80, 80);
-
 	const float x = bounds.right - kRightMargin - StringWidth(text.String());
-	DrawString(text.String(), BPoint(x, bounds.top + 40));
+	DrawString(text.String(), BPoint(x, bounds.top + kTimeBaseline));
 }
 
 
 BString
-MEView::_Truncated(const BString& text, float width) const
+MEView::_NumberText() const
 {
-	BString truncated(text);
-	TruncateString(&truncated, B_TRUNCATE_SMART, width);
-	return truncated;
+	BString text;
+	if (fTrack > 0 && SepListSelected)
+		text << " AlbumTrack: " << fTrack;
+	else
+		text << "[" << fNumber + 1 << "]";
+	return text;
+}
+
+
+BString
+MEView::_TimeText() const
+{
+	BString text(" >|Stop");
+	if (fLengthCode != 0)
+		text.SetToFormat(" %ld:%02ld ", static_cast<long>(fMinutes), static_cast<long>(fSeconds));
+	return text;
+}
+
+
+// Draws a line that ends before the tile's edge, and before the number and the time where it
+// stands as high as they do.
+void
+MEView::_DrawCut(const char* text, BPoint where)
+{
+	BFont font;
+	GetFont(&font);
+	font_height line;
+	font.GetHeight(&line);
+	BFont labelFont(font);
+	labelFont.SetSize(kLabelFontSize);
+	font_height label;
+	labelFont.GetHeight(&label);
+
+	const float width = Bounds().Width();
+	float right = width - kEdgeGap;
+	const auto stopBefore = [&](const BString& labelText, float baseline) {
+		if (overlap(where.y - line.ascent, where.y + line.descent, baseline - label.ascent,
+				baseline + label.descent)) {
+			const float labelWidth = labelFont.StringWidth(labelText.String());
+			right = std::min(right, width - kRightMargin - labelWidth - kLabelGap);
+		}
+	};
+	stopBefore(_NumberText(), kNumberBaseline);
+	stopBefore(_TimeText(), kTimeBaseline);
+
+	BString cut(text);
+	TruncateString(&cut, B_TRUNCATE_SMART, std::max(right - where.x, 0.0f));
+	DrawString(cut.String(), where);
 }

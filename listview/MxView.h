@@ -114,6 +114,7 @@ private:
 	void _LoadBackground();
 
 	void _MeasureTitle(int32 index, const BPath& path);
+	void _ShowMeasured(int32 index, int32 count);
 
 	void _DrawFrame(BRect bounds);
 	void _DrawCenterBar(BRect bounds);

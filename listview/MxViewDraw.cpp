@@ -74,6 +74,7 @@ void
 MxView::Draw(BRect)
 {
 	const BRect bounds = Bounds();
+	const BRect oldGrid = imageGridRect;
 	SetFontSize(15);
 	fDrawnCenterY = centerY;
 
@@ -90,6 +91,9 @@ MxView::Draw(BRect)
 	SetHighColor(kDark);
 	StrokeRect(bounds);
 	ShowToppedAlbum(imageIndex);
+	// The buttons were drawn beside a grid that is no longer there.
+	if (imageGridRect != oldGrid)
+		Invalidate();
 }
 
 

@@ -39,8 +39,24 @@ MxView::ListWriteAttribute()
 		const BPath* path = static_cast<BPath*>(MedList->ItemAt(index));
 		if (path != nullptr && path->InitCheck() == B_OK)
 			_MeasureTitle(index, *path);
+		_ShowMeasured(index, count);
 	}
 	DrawProgressCalc(true);
+	// The time bar comes back with the next pulse, if a title is timed.
+	Invalidate();
+}
+
+
+// While the window is busy nothing is updated: the tile shows its time at once, and the time bar
+// runs down with the titles that are left.
+void
+MxView::_ShowMeasured(int32 index, int32 count)
+{
+	MEView* tile = _TileAt(index);
+	if (tile != nullptr)
+		tile->Draw(tile->Bounds());
+	_DrawTimeBar(Bounds(), static_cast<float>(count - 1 - index) / count);
+	Flush();
 }
 
 

@@ -1,9 +1,13 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
 #include "entryview/MEView.h"
 
+#include <string>
+#include <vector>
+
 #include <string.h>
 
 #include <Bitmap.h>
+#include <Font.h>
 #include <gtest/gtest.h>
 
 #include "locale/KVLabel.h"
@@ -71,6 +75,26 @@ protected:
 				count += At(x, y) == color ? 1 : 0;
 		}
 		return count;
+	}
+
+	std::vector<uint8> Pixels(BRect area)
+	{
+		std::vector<uint8> pixels;
+		for (int y = static_cast<int>(area.top); y <= area.bottom; y++) {
+			for (int x = static_cast<int>(area.left); x <= area.right; x++) {
+				const rgb_color color = At(x, y);
+				pixels.insert(pixels.end(), {color.red, color.green, color.blue});
+			}
+		}
+		return pixels;
+	}
+
+	// The first column of the number or the time, which end at the right.
+	static int LeftOf(const char* label)
+	{
+		BFont font(be_bold_font);
+		font.SetSize(10);
+		return static_cast<int>(485 - font.StringWidth(label));
 	}
 
 	BBitmap* fBitmap = nullptr;
@@ -228,6 +252,67 @@ TEST_F(MEViewDraw, ShortArtistIsNotShown)
 	fTile->fArtist = "abc";
 	Draw();
 	EXPECT_LT(Count(BRect(119, 30, 249, 60), kBackground), 131 * 31);
+}
+
+
+// Letters that reach as far up and down as any do.
+TEST_F(MEViewDraw, LongTextsStayAwayFromTheNumberTheTimeAndTheEdge)
+{
+	const char* const texts[] = {
+		"ÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇgÅÇg",
+		"東京事変東京事変東京事変東京事変東京事変東京事変東京事変東京事変東京事変東京事変東京事変",
+		"Ὕμνος εἰς τὴν Ἐλευθερίαν, Ὕμνος εἰς τὴν Ἐλευθερίαν, Ὕμνος εἰς τὴν Ἐλευθερίαν",
+	};
+	fTile->fLengthCode = 12345;
+	fTile->fMinutes = 123;
+	fTile->fSeconds = 45;
+	for (const float height : {114, 95, 76, 57, 48}) {
+		fTile->ResizeTo(kWidth, height);
+		for (const bool isAlbum : {false, true}) {
+			MEView::SepListSelected = isAlbum;
+			fTile->fTrack = 12;
+			fTile->fName = "x";
+			fTile->fArtist = "";
+			fTile->fBadCharacters = false;
+			Draw();
+			const BRect number(LeftOf(isAlbum ? " AlbumTrack: 12" : "[5]") - 2, 14, 485, 28);
+			const BRect time(LeftOf(" 123:45 ") - 2, 29, 485, 43);
+			const BRect edge(481, 44, kWidth, height - 5);
+			const std::vector<uint8> before[] = {Pixels(number), Pixels(time), Pixels(edge)};
+			for (const char* text : texts) {
+				fTile->fName = text;
+				fTile->fArtist = text;
+				for (const bool isBad : {false, true}) {
+					fTile->fBadCharacters = isBad;
+					Draw();
+					EXPECT_TRUE(Pixels(number) == before[0]) << height << isAlbum << text;
+					EXPECT_TRUE(Pixels(time) == before[1]) << height << isAlbum << text;
+					EXPECT_TRUE(Pixels(edge) == before[2]) << height << isAlbum << text;
+				}
+			}
+		}
+	}
+}
+
+
+TEST_F(MEViewDraw, LongTextsReachFarWhereTheyMay)
+{
+	fTile->fName = "wwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwww";
+	Draw();
+	EXPECT_LT(Count(BRect(440, 70, 479, 95), kBackground), 40 * 26);
+	fTile->fArtist = fTile->fName;
+	Draw();
+	EXPECT_LT(Count(BRect(400, 44, 430, 60), kBackground), 31 * 17);
+}
+
+
+TEST_F(MEViewDraw, LongMissingPathEndsBeforeTheEdge)
+{
+	fTile->fFound = false;
+	fTile->fMissingPath.SetTo(("/music/" + std::string(200, 'm') + "/gone.mp3").c_str());
+	Draw();
+	EXPECT_EQ(Count(BRect(481, 2, 486, 13), kBackground), 6 * 12);
+	EXPECT_LT(Count(BRect(440, 1, 479, 13), kBackground), 40 * 13);
 }
 
 

@@ -10,8 +10,11 @@
 #include "entryview/MEView.h"
 #include "settings/Prefs.h"
 #include "tests/listview/ListViewFixture.h"
+#include "tests/support/Desktop.h"
 #include "tests/support/Output.h"
 #include "window/BitmapPath.h"
+
+#include <QImage>
 
 
 namespace {
@@ -388,4 +391,27 @@ TEST_F(MxViewDraw, EraseViewDrawsNothing)
 	fView->EraseView(fView->Bounds());
 	fView->Sync();
 	EXPECT_EQ(memcmp(before.data(), fBitmap->Bits(), before.size()), 0);
+}
+
+
+TEST_F(MxViewDraw, GrownGridLeavesNothingOfTheOldButtons)
+{
+	AddAlbums(3);
+	MakeView();
+	fWindow->Unlock();
+	fWindow->Show();
+	test::Settle(fWindow);
+	const QRgb background = test::PictureOf(fWindow).pixel(445, 72);
+	EXPECT_EQ(test::PictureOf(fWindow).pixel(415, 30), qRgb(20, 20, 20));
+
+	fWindow->Lock();
+	AddAlbums(17);
+	fView->Draw(fView->Bounds());
+	fWindow->Unlock();
+	test::Settle(fWindow);
+	const QImage picture = test::PictureOf(fWindow);
+	EXPECT_EQ(picture.pixel(450, 30), qRgb(20, 20, 20));
+	for (int x = 440; x < 450; x++)
+		EXPECT_EQ(picture.pixel(x, 30), background) << x;
+	fWindow->Lock();
 }

@@ -3,6 +3,7 @@
 
 #include <condition_variable>
 #include <deque>
+#include <errno.h>
 #include <memory>
 #include <mutex>
 #include <stdint.h>
@@ -15,6 +16,7 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QSocketNotifier>
@@ -171,8 +173,7 @@ void
 display_main(State& shared)
 {
 	static int sArgumentCount = 1;
-	static char sName[] = "VinyloH";
-	static char* sArguments[] = {sName, nullptr};
+	static char* sArguments[] = {program_invocation_short_name, nullptr};
 
 	InstallQtMessageFilter();
 	const std::string choice = platform_choice();
@@ -185,6 +186,8 @@ display_main(State& shared)
 		if (!wasSet)
 			unsetenv("QT_QPA_PLATFORM");
 		application.setQuitOnLastWindowClosed(false);
+		// Desktops find the icon of a window by it.
+		QGuiApplication::setDesktopFileName(QFile::decodeName(program_invocation_short_name));
 		if (is_offscreen_by_necessity(choice) || (!wasSet && choice == "offscreen")) {
 			report(shared, false);
 			return;

@@ -2,7 +2,9 @@
 
 // Drops files on a window as a file manager does, with a whole drag-and-drop exchange of the X
 // Window System (XDND, version 5): drop-files WINDOW X Y URI...
-// X and Y are screen coordinates. Ends with 0 when the target has taken the data and said so.
+// or drops something else, in hexadecimal digits: drop-files WINDOW X Y --as TYPE DIGITS
+// X and Y are screen coordinates. Ends with 0 when the target has taken the data and said so, with 3
+// when it refuses them.
 
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
@@ -23,7 +25,8 @@ struct Drag {
 	Display* display = nullptr;
 	Window source = 0;
 	Window target = 0;
-	std::string uris;
+	std::string type = "text/uri-list";
+	std::string data;
 
 	Atom Named(const char* name) const { return XInternAtom(display, name, False); }
 };
@@ -69,10 +72,10 @@ serve(const Drag& drag, const XSelectionRequestEvent& request)
 	answer.xselection.selection = request.selection;
 	answer.xselection.target = request.target;
 	answer.xselection.time = request.time;
-	if (request.target == drag.Named("text/uri-list")) {
+	if (request.target == drag.Named(drag.type.c_str())) {
 		XChangeProperty(drag.display, request.requestor, request.property, request.target, 8,
-			PropModeReplace, reinterpret_cast<const unsigned char*>(drag.uris.data()),
-			static_cast<int>(drag.uris.size()));
+			PropModeReplace, reinterpret_cast<const unsigned char*>(drag.data.data()),
+			static_cast<int>(drag.data.size()));
 		answer.xselection.property = request.property;
 	}
 	XSendEvent(drag.display, request.requestor, False, NoEventMask, &answer);
@@ -109,7 +112,7 @@ wait_for(const Drag& drag, const char* type, XClientMessageEvent* message)
 int
 drop(Drag& drag, long x, long y)
 {
-	const Atom list = drag.Named("text/uri-list");
+	const Atom list = drag.Named(drag.type.c_str());
 	const Atom copy = drag.Named("XdndActionCopy");
 	XSetSelectionOwner(drag.display, drag.Named("XdndSelection"), drag.source, CurrentTime);
 	send(drag, "XdndEnter", kVersion << 24, static_cast<long>(list), 0, 0);
@@ -129,6 +132,15 @@ drop(Drag& drag, long x, long y)
 	return 0;
 }
 
+std::string
+bytes_of(const std::string& digits)
+{
+	std::string bytes;
+	for (size_t at = 0; at + 1 < digits.size(); at += 2)
+		bytes += static_cast<char>(strtol(digits.substr(at, 2).c_str(), nullptr, 16));
+	return bytes;
+}
+
 } // namespace
 
 
@@ -146,8 +158,13 @@ main(int argc, char** argv)
 		return 2;
 	}
 	drag.target = strtoul(argv[1], nullptr, 0);
-	for (int index = 4; index < argc; index++)
-		drag.uris += std::string(argv[index]) + "\r\n";
+	if (strcmp(argv[4], "--as") == 0 && argc == 7) {
+		drag.type = argv[5];
+		drag.data = bytes_of(argv[6]);
+	} else {
+		for (int index = 4; index < argc; index++)
+			drag.data += std::string(argv[index]) + "\r\n";
+	}
 	drag.source = XCreateSimpleWindow(drag.display, DefaultRootWindow(drag.display), -10, -10, 1, 1,
 		0, 0, 0);
 	const int result = drop(drag, strtol(argv[2], nullptr, 0), strtol(argv[3], nullptr, 0));

@@ -45,7 +45,7 @@ class Program:
 		self.window = session.window("_koru_media_list", process=self.process)
 
 	def text(self):
-		with open(self.log, encoding="utf-8", errors="replace") as file:
+		with open(self.log, encoding="utf-8", errors="surrogateescape") as file:
 			return file.read()
 
 	def count(self, text):
@@ -81,6 +81,15 @@ class Program:
 	def drop(self, paths):
 		x, y = self.at(300, 150)
 		return self.session.drop(self.window, x, y, paths)
+
+	def drop_data(self, kind, data):
+		x, y = self.at(300, 150)
+		return self.session.drop_data(self.window, x, y, kind, data)
+
+	def title(self):
+		"""The window's title as the window manager knows it."""
+		text = self.session.output(["xprop", "-id", self.window, "-notype", "_NET_WM_NAME"])
+		return text.partition(" = ")[2].strip().strip('"')
 
 	def click_centered_tile(self):
 		width, height = self.size()

@@ -74,7 +74,7 @@ def make_album(folder):
 
 
 def uri_of(path):
-	return "file://" + urllib.parse.quote(path)
+	return "file://" + urllib.parse.quote(os.fsencode(path))
 
 
 class Session:
@@ -217,6 +217,19 @@ class Session:
 	def drop(self, window, x, y, paths):
 		drop_files = os.environ["DROP_FILES"]
 		return self.run([drop_files, window, str(x), str(y)] + [uri_of(path) for path in paths])
+
+	def drop_data(self, window, x, y, kind, data):
+		"""Drops what is no file; 3 if the window refuses it."""
+		return self.run([os.environ["DROP_FILES"], window, str(x), str(y), "--as", kind, data.hex()])
+
+	def drag(self, start, end):
+		"""Drags with the pointer from one place of the screen to another, as slowly as a hand."""
+		self.run(["xdotool", "mousemove", str(start[0]), str(start[1]), "sleep", "0.2",
+			"mousedown", "1"])
+		for step in range(1, 11):
+			x, y = (int(a + (b - a) * step / 10) for a, b in zip(start, end))
+			self.run(["xdotool", "mousemove", str(x), str(y), "sleep", "0.05"])
+		self.run(["xdotool", "sleep", "0.3", "mouseup", "1"])
 
 	def screenshot(self, path):
 		self.run(["import", "-window", "root", path])

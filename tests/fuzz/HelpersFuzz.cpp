@@ -1,7 +1,13 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
 // Any bytes may be a picture, a media file, a file's type or the color of a drop.
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <memory>
 #include <string>
+#include <vector>
+
+#include <stdlib.h>
 
 #include <Bitmap.h>
 #include <Entry.h>
@@ -21,7 +27,13 @@ static void
 try_picture(const std::string& path)
 {
 	const std::unique_ptr<BBitmap> bitmap(GetImage(path.c_str()));
-	Require(bitmap == nullptr || bitmap->Bounds().IsValid(), "a picture with a size");
+	if (bitmap == nullptr)
+		return;
+	const BRect bounds = bitmap->Bounds();
+	Require(bounds.IsValid(), "a picture with a size");
+	// Its pixels are decoded only now. Larger ones would take most of the time.
+	if ((bounds.Width() + 1) * (bounds.Height() + 1) <= 1000000)
+		Require(bitmap->Bits() != nullptr, "pixels");
 }
 
 
@@ -66,18 +78,45 @@ try_color(const std::string& path, const std::string& bytes)
 }
 
 
+// Small files of many formats, made with the tools that the tests use as well. What a tool cannot
+// make here is left out.
+static std::vector<std::string>
+sample_files()
+{
+	const std::string folder = FuzzFolder() + "/samples";
+	std::filesystem::create_directory(folder);
+	std::string commands = "cd '" + folder + "' && exec 2> /dev/null\n";
+	for (const char* format :
+		{"jpg", "png", "gif", "bmp", "webp", "tif", "tga", "ico", "xpm", "mng"})
+		commands += std::string("convert -size 9x7 gradient:red-blue 0.") + format + "\n";
+	commands += "ffmpeg -nostdin -v quiet -f lavfi -i sine=duration=0.2:sample_rate=16000";
+	for (const char* format : {"mp3", "flac", "ogg", "opus", "m4a", "wav", "wma", "mka", "webm",
+			 "avi", "ts", "aiff", "wv"})
+		commands += std::string(" -y 1.") + format;
+	const int result = system(commands.c_str());
+	static_cast<void>(result);
+
+	std::vector<std::string> samples;
+	for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+		std::ifstream file(entry.path(), std::ios::binary);
+		const std::string kind(1, entry.path().filename().string()[0] == '0' ? '\0' : '\1');
+		samples.push_back(kind
+			+ std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()));
+	}
+	std::filesystem::remove_all(folder);
+	return samples;
+}
+
+
 // The first byte of an input chooses what is tried with the others.
 extern "C" int
 LLVMFuzzerInitialize(int* argc, char*** argv)
 {
 	using namespace std::string_literals;
-	const std::string bitmap = "BM\x3a\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\1\0\0\0\1\0\0\0\1\0\x18\0"s
-		+ std::string(28, '\0');
-	const std::string sound = "RIFF\x2c\0\0\0WAVEfmt \x10\0\0\0\1\0\1\0\x40\x1f\0\0\x80\x3e\0\0"s
-		+ "\2\0\x10\0data\x08\0\0\0abcdefgh"s;
-	AddSeeds(argc, argv,
-		{"\0"s + bitmap, "\0\xff\xd8\xff\xe0\0\x10JFIF\0"s, "\1"s + sound, "\1ID3\3\0\0\0\0\0\0"s,
-			"\2audio/mpeg\0"s, "\3\1\2\3\4"s});
+	std::vector<std::string> seeds = sample_files();
+	for (const std::string& other : {"\2audio/mpeg\0"s, "\3\1\2\3\4"s})
+		seeds.push_back(other);
+	AddSeeds(argc, argv, seeds);
 	return 0;
 }
 

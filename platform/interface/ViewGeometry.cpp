@@ -263,9 +263,18 @@ BView::Hide()
 bool
 BView::IsHidden() const
 {
+	return IsHidden(nullptr);
+}
+
+
+bool
+BView::IsHidden(const BView* lookingFrom) const
+{
 	for (const BView* view = this; view != nullptr; view = ViewData::Of(view).parent) {
 		if (ViewData::Of(view).hideLevel > 0)
 			return true;
+		if (view == lookingFrom)
+			break;
 	}
 	return false;
 }

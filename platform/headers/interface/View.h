@@ -160,6 +160,8 @@ public:
 	virtual void Show();
 	virtual void Hide();
 	bool IsHidden() const;
+	// Whether this view, or one above it up to that one, is hidden.
+	bool IsHidden(const BView* lookingFrom) const;
 	virtual void MakeFocus(bool focus = true);
 	bool IsFocus() const;
 

@@ -160,6 +160,10 @@ TEST(ViewHidden, CountsAndIncludesTheParents)
 	EXPECT_FALSE(child->IsHidden());
 	parent.Hide();
 	EXPECT_TRUE(child->IsHidden());
+	EXPECT_FALSE(child->IsHidden(child));
+	EXPECT_TRUE(child->IsHidden(&parent));
+	child->Hide();
+	EXPECT_TRUE(child->IsHidden(child));
 }
 
 

@@ -102,6 +102,9 @@ ActivateOwnWindows()
 		window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
 		window->raise();
 		window->requestActivate();
+		// Without a common desktop each program keeps its active window, and no event will come.
+		if (QGuiApplication::focusWindow() == window)
+			NoteOwnActivity(true);
 		return;
 	}
 }

@@ -5,7 +5,6 @@
 #include <limits>
 #include <memory>
 #include <signal.h>
-#include <stdlib.h>
 #include <string>
 #include <thread>
 #include <vector>
@@ -15,12 +14,10 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/Output.h"
-#include "tests/support/Program.h"
-#include "tests/support/TempFolder.h"
+#include "tests/support/SoundServer.h"
 #include "tests/support/Wait.h"
 
-using test::Program;
-using test::TempFolder;
+using test::SoundServer;
 
 
 namespace {
@@ -32,51 +29,21 @@ constexpr bigtime_t kLimit = 3000000;
 // Tests the mixer of a sound server of its own, whose only output plays to nobody.
 class Mixer : public testing::Test {
 protected:
-	void SetUp() override
-	{
-		setenv("XDG_RUNTIME_DIR", fFolder.MakeFolder("runtime").c_str(), 1);
-		setenv("PULSE_RUNTIME_PATH", fFolder.MakeFolder("pulse").c_str(), 1);
-		setenv("PULSE_SERVER", ("unix:" + _Socket()).c_str(), 1);
-		StartServer();
-	}
-
-	void TearDown() override
-	{
-		StopServer();
-		for (const char* name : {"XDG_RUNTIME_DIR", "PULSE_RUNTIME_PATH", "PULSE_SERVER"})
-			unsetenv(name);
-	}
+	void SetUp() override { StartServer(); }
 
 	void StartServer(const std::string& output = "module-null-sink channels=2")
 	{
-		std::vector<std::string> words = {"pulseaudio", "--daemonize=no", "-n", "--use-pid-file=no",
-			"--exit-idle-time=-1", "--log-level=error", "--log-target=file:" + fFolder / "log",
-			"--load=module-native-protocol-unix socket=" + _Socket()};
-		if (!output.empty())
-			words.push_back("--load=" + output);
-		fServer = std::make_unique<Program>(words);
-		ASSERT_GT(fServer->Id(), 0);
-		ASSERT_TRUE(test::WaitFor([]() { return !Ask({"info"}).empty(); }))
-			<< test::ReadFile(fFolder / "log");
+		ASSERT_TRUE(fServer.Start(output)) << fServer.Log();
 	}
 
-	void StopServer() { fServer.reset(); }
-	void Signal(int signal) { fServer->Kill(signal); }
-
-	// The first line of what pactl says.
-	static std::string Ask(std::vector<std::string> words)
+	void StopServer() { fServer.Stop(); }
+	void Signal(int signal) { fServer.Signal(signal); }
+	static std::string Ask(const std::vector<std::string>& words)
 	{
-		words.insert(words.begin(), "pactl");
-		// Silent while the server is not there yet.
-		words.insert(words.begin(), {"sh", "-c", "exec \"$@\" 2>/dev/null", "sh"});
-		Program program(words);
-		const std::string line = program.ReadLine();
-		EXPECT_TRUE(program.WaitForEnd());
-		return line;
+		return SoundServer::Ask(words);
 	}
-
-	static std::string Mute() { return Ask({"get-sink-mute", "@DEFAULT_SINK@"}); }
-	static std::string Volume() { return Ask({"get-sink-volume", "@DEFAULT_SINK@"}); }
+	static std::string Mute() { return SoundServer::Mute(); }
+	static std::string Volume() { return SoundServer::Volume(); }
 
 	// In steps from full volume, because a number with a sign is a step for pactl.
 	static void SetVolume(const std::string& left, const std::string& right)
@@ -132,11 +99,7 @@ protected:
 	}
 
 private:
-	std::string _Socket() const { return fFolder / "socket"; }
-
-private:
-	TempFolder fFolder;
-	std::unique_ptr<Program> fServer;
+	SoundServer fServer;
 };
 
 } // namespace

@@ -182,14 +182,6 @@ media_player_key(long key)
 
 
 static void
-send_key(const BMessenger& target, const KeyPress& press)
-{
-	BMessage message = KeyDownMessage(press);
-	target.SendMessage(&message, static_cast<BHandler*>(nullptr), kDeliveryLimit);
-}
-
-
-static void
 activate_self()
 {
 	app_info info;
@@ -206,12 +198,12 @@ press_key(const char* signature, long key)
 	if (strcmp(signature, kHaikuMediaPlayer) == 0) {
 		printf("(Haiku?)Mediaplayer_selected");
 		const KeyPress press = media_player_key(key);
-		send_key(GetLastRosterMessenger(nullptr, nullptr), press);
+		PressKeyInLastApplication(press, key);
 		activate_self();
 	} else {
 		printf("  target is '%s' \n", signature);
 		printf("  WILL SEND ");
-		send_key(BMessenger(signature), KeyPress());
+		PressKeyIn(signature, -1, KeyPress(), key);
 	}
 	snooze(kPause);
 }

@@ -6,7 +6,6 @@
 #include <Roster.h>
 
 #include "appcontrol/RemoteCommands.h"
-#include "settings/Helpers.h"
 #include "tests/appcontrol/ScriptedPlayer.h"
 #include "tests/support/Output.h"
 #include "tests/support/Wait.h"
@@ -24,14 +23,6 @@ constexpr char kTabLine[] = "key 26 char 9 byte 9 bytes '' modifiers 30 when 1 s
 
 class PlayerKeysTest : public RemoteTest {
 protected:
-	// Makes the player the last active application.
-	static void Remember(const char* signature)
-	{
-		BMessage notice(B_SOME_APP_LAUNCHED);
-		notice.AddString("be:signature", signature);
-		OutputOf([&notice] { GetLastRosterMessenger(&notice, nullptr); });
-	}
-
 	// What the player is sent for a key.
 	static Lines Sent(ScriptedPlayer& player, void (*function)(long), long key)
 	{

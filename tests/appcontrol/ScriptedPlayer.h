@@ -31,6 +31,8 @@ public:
 		const Lines& variables = {});
 
 	bool IsReady();
+	// Waits until it is the active application, as one with windows becomes.
+	bool IsActive();
 	// Everything that it was asked for since the last call, once it has done all that was sent to
 	// it before.
 	Lines Take();
@@ -53,6 +55,9 @@ class RemoteTest : public testing::Test {
 protected:
 	RemoteTest();
 	~RemoteTest() override;
+
+	// Makes a running application the last active one.
+	static void Remember(const char* signature);
 
 	// Adds to the table of players, before all others.
 	void AddPlayers(const std::string& table);

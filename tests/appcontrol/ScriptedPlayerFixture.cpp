@@ -9,8 +9,11 @@
 
 #include <Message.h>
 #include <Messenger.h>
+#include <Roster.h>
 
 #include "platform/desktop/PlayersTable.h"
+#include "settings/Helpers.h"
+#include "tests/support/Output.h"
 #include "tests/support/RunningApplication.h"
 #include "tests/support/Wait.h"
 
@@ -64,6 +67,16 @@ ScriptedPlayer::IsReady()
 }
 
 
+bool
+ScriptedPlayer::IsActive()
+{
+	app_info active;
+	return WaitFor(
+		[&]() { return be_roster->GetActiveAppInfo(&active) == B_OK && active.team == Team(); },
+		std::chrono::seconds(20));
+}
+
+
 Lines
 ScriptedPlayer::Take()
 {
@@ -100,6 +113,15 @@ RemoteTest::RemoteTest()
 RemoteTest::~RemoteTest()
 {
 	unlink((std::string(getenv("XDG_CONFIG_HOME")) + "/VinyloH/players.table").c_str());
+}
+
+
+void
+RemoteTest::Remember(const char* signature)
+{
+	BMessage notice(B_SOME_APP_LAUNCHED);
+	notice.AddString("be:signature", signature);
+	OutputOf([&notice] { GetLastRosterMessenger(&notice, nullptr); });
 }
 
 

@@ -6,8 +6,10 @@
 //   PLAYER_RECORD      the file of the record
 //   PLAYER_TRACKS      how many track objects it has; 1 if not said
 //   PLAYER_VOLUME      their volume at first; 0.5 if not said
+//   PLAYER_WINDOWS     the titles of its windows, each behind a "|"
 //   PLAYER_FAULT       see Fault
 //   PLAYER_DELAY       milliseconds from its start to its registration
+#include <algorithm>
 #include <map>
 #include <stdio.h>
 #include <stdlib.h>
@@ -18,6 +20,7 @@
 #include <Application.h>
 #include <Message.h>
 #include <OS.h>
+#include <Window.h>
 
 
 namespace {
@@ -41,6 +44,9 @@ enum class Fault {
 	kDiesAtSecondTrack,
 	kDiesAtVolume,
 	kDiesAtCommand,
+	// Has a million windows, or never tells how many.
+	kEndlessWindows,
+	kSilentWindows,
 };
 
 const std::map<std::string, Fault> kFaults = {{"late", Fault::kLate}, {"silent", Fault::kSilent},
@@ -48,7 +54,8 @@ const std::map<std::string, Fault> kFaults = {{"late", Fault::kLate}, {"silent",
 	{"volume-text", Fault::kVolumeText}, {"volume-nan", Fault::kVolumeNotANumber},
 	{"volume-late", Fault::kVolumeLate}, {"volume-silent", Fault::kVolumeSilent},
 	{"dies-at-second-track", Fault::kDiesAtSecondTrack}, {"dies-at-volume", Fault::kDiesAtVolume},
-	{"dies-at-command", Fault::kDiesAtCommand}};
+	{"dies-at-command", Fault::kDiesAtCommand}, {"endless-windows", Fault::kEndlessWindows},
+	{"silent-windows", Fault::kSilentWindows}};
 
 constexpr bigtime_t kLateness = 3000000;
 
@@ -167,6 +174,28 @@ private:
 };
 
 
+class PlayerWindow : public BWindow {
+public:
+	PlayerWindow(BRect frame, const char* title)
+		:
+		BWindow(frame, title, B_TITLED_WINDOW, 0)
+	{
+	}
+
+	bool QuitRequested() override
+	{
+		fprintf(sRecord, "window %s: quit\n", Title());
+		return true;
+	}
+
+	void WindowActivated(bool active) override
+	{
+		if (active)
+			fprintf(sRecord, "window %s: active\n", Title());
+	}
+};
+
+
 class Player : public BApplication {
 public:
 	explicit Player(const char* signature)
@@ -181,7 +210,18 @@ public:
 		}
 	}
 
-	void ReadyToRun() override { fprintf(sRecord, "ready\n"); }
+	void ReadyToRun() override
+	{
+		fprintf(sRecord, "ready\n");
+		const std::string titles = variable("PLAYER_WINDOWS", "");
+		float left = 50;
+		for (size_t begin = 0; begin < titles.size(); left += 40) {
+			const size_t end = std::min(titles.find('|', begin), titles.size());
+			const std::string title = titles.substr(begin, end - begin);
+			(new PlayerWindow(BRect(left, 50, left + 99, 149), title.c_str()))->Show();
+			begin = end + 1;
+		}
+	}
 
 	bool QuitRequested() override
 	{
@@ -192,6 +232,8 @@ public:
 	BHandler* ResolveSpecifier(BMessage* message, int32 index, BMessage* specifier, int32 what,
 		const char* property) override
 	{
+		if (std::string(property) == "Window" && !_MisbehaveInWindows(message, what))
+			return nullptr;
 		if (std::string(property) != "track")
 			return BApplication::ResolveSpecifier(message, index, specifier, what, property);
 		const int32 number = specifier->GetInt32("index", -1);
@@ -217,6 +259,20 @@ public:
 				break;
 			case B_KEY_DOWN:
 				_RecordKey(*message);
+				break;
+			case B_UNMAPPED_KEY_DOWN:
+				fprintf(sRecord, "unmapped key %x modifiers %x when %d states %d\n",
+					message->GetInt32("key", -1), message->GetInt32("modifiers", -1),
+					message->HasInt64("when") ? 1 : 0, StatesSize(*message));
+				break;
+			case B_MOUSE_DOWN:
+			case B_MOUSE_UP:
+				fprintf(sRecord, "%s clicks %d buttons %d\n",
+					message->what == B_MOUSE_DOWN ? "press" : "release",
+					message->GetInt32("clicks", -1), message->GetInt32("buttons", -1));
+				break;
+			case 'note':
+				fprintf(sRecord, "note %s\n", message->GetString("text", ""));
 				break;
 			default:
 				BApplication::MessageReceived(message);
@@ -261,16 +317,37 @@ private:
 		}
 	}
 
-	void _RecordKey(const BMessage& message)
+	bool _MisbehaveInWindows(BMessage* message, int32 what)
+	{
+		if (what != B_DIRECT_SPECIFIER)
+			return true;
+		if (sFault == Fault::kSilentWindows) {
+			never_answer(this);
+			return false;
+		}
+		if (sFault != Fault::kEndlessWindows)
+			return true;
+		BMessage reply(B_REPLY);
+		reply.AddInt32("result", 1000000);
+		message->SendReply(&reply);
+		return false;
+	}
+
+	static int StatesSize(const BMessage& message)
 	{
 		const void* states;
 		ssize_t size = 0;
 		message.FindData("states", B_UINT8_TYPE, &states, &size);
+		return static_cast<int>(size);
+	}
+
+	void _RecordKey(const BMessage& message)
+	{
 		fprintf(sRecord, "key %x char %x byte %x bytes '%s' modifiers %x when %d states %d\n",
 			message.GetInt32("key", -1), message.GetInt32("raw_char", -1),
 			message.GetInt8("byte", -1), message.GetString("bytes", "none"),
 			message.GetInt32("modifiers", -1), message.HasInt64("when") ? 1 : 0,
-			static_cast<int>(size));
+			StatesSize(message));
 	}
 
 private:

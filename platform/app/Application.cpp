@@ -25,6 +25,7 @@
 #include "platform/app/Delivery.h"
 #include "platform/app/LooperCore.h"
 #include "platform/app/QueueState.h"
+#include "platform/app/QuitSignals.h"
 #include "platform/app/Registry.h"
 #include "platform/app/Threads.h"
 #include "platform/app/Transport.h"
@@ -207,6 +208,8 @@ BApplication::Run()
 {
 	if (fInitStatus != B_OK)
 		return fInitStatus;
+	// Haiku asks programs to quit before the session ends; here the system sends them a signal.
+	const hosted::QuitSignals signals([]() { be_app_messenger.SendMessage(B_QUIT_REQUESTED); });
 	Loop();
 	return Thread();
 }

@@ -86,11 +86,6 @@ class Program:
 		x, y = self.at(300, 150)
 		return self.session.drop_data(self.window, x, y, kind, data)
 
-	def title(self):
-		"""The window's title as the window manager knows it."""
-		text = self.session.output(["xprop", "-id", self.window, "-notype", "_NET_WM_NAME"])
-		return text.partition(" = ")[2].strip().strip('"')
-
 	def click_centered_tile(self):
 		width, height = self.size()
 		self.session.click(*self.at(width - 516 + 250, (height - 1) * 0.5 - GAP))

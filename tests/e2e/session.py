@@ -25,6 +25,27 @@ def as_ordinary_user():
 	os.execvp(user[0], user + [sys.executable] + sys.argv)
 
 
+def with_small_disk():
+	"""Starts the calling script again, as an ordinary user who has a disk of a megabyte at the
+	returned path; None where the system does not allow that."""
+	folder = os.environ.get("SMALL_DISK")
+	if folder is not None:
+		return folder
+	folder = tempfile.mkdtemp(prefix="vinyloh-disk-")
+	user = ["unshare", "--user", "--map-user=1000", "--map-group=1000"]
+	disk = ["unshare", "--user", "--map-root-user", "--mount", "sh", "-ec",
+		f"mount -t tmpfs -o size=1m,mode=777 none {folder}; exec \"$@\"", "sh"] + user
+	environment = {**os.environ, "SMALL_DISK": folder}
+	status = None
+	if subprocess.run(disk + ["true"], stderr=subprocess.DEVNULL).returncode == 0:
+		status = subprocess.run(disk + [sys.executable] + sys.argv, env=environment).returncode
+	os.rmdir(folder)
+	if status is not None:
+		sys.exit(status)
+	as_ordinary_user()
+	return None
+
+
 def wait_for(condition, what, limit=15.0):
 	"""Returns the condition's first true value; fails after the limit (seconds)."""
 	end = time.monotonic() + limit

@@ -13,6 +13,7 @@
 #include <QPointer>
 
 #include "platform/screen/DisplayThread.h"
+#include "platform/screen/KeyMessages.h"
 #include "platform/screen/NativeWidget.h"
 
 
@@ -244,6 +245,8 @@ NativeMenu::Open(std::shared_ptr<const MenuContents> contents, const MenuPlace& 
 		menu->setAttribute(Qt::WA_DeleteOnClose);
 		state->menu = menu;
 		QObject::connect(menu, &QMenu::triggered, [state](QAction* action) {
+			// The menu had the keyboard, and who is chosen may ask what was held.
+			AdoptModifiers(QGuiApplication::keyboardModifiers());
 			std::lock_guard<std::mutex> lock(state->mutex);
 			bool isNumber = false;
 			const int choice = action->data().toInt(&isNumber);

@@ -97,6 +97,24 @@ class Language(unittest.TestCase):
 		session.key("Escape")
 		session.key("Escape")
 
+	def test_control_held_while_a_language_is_chosen_reports_what_it_lacks(self):
+		with Session() as session:
+			self.prepare(session)
+			program = self.start(session, "log", 20)
+			self.open_language_menu(program, self.files(program).index("itIT"))
+			session.run(["xdotool", "keydown", "ctrl"])
+			session.run(["xdotool", "key", "Return"])
+			program.wait_for_text("[B_CONTROL_KEY]")
+			session.run(["xdotool", "keyup", "ctrl"])
+			program.wait_for_text(" - 0 not translated - \n")
+			with open(os.path.join(session.home, "KORU-Haiku_itIT_Missing.txt"),
+					encoding="utf-8") as file:
+				report = file.read()
+			self.assertIn("KORU-Haiku.itIT'\n# - - - not translated Labels: \n", report)
+			self.assertIn('"Teach In"\t\t"Teach In"\n', report)
+			self.assertNotIn('"Edit"', report)
+			self.assertEqual(program.close(), 0)
+
 	def test_the_language_comes_back_with_the_next_start(self):
 		with Session() as session:
 			self.prepare(session)

@@ -5,10 +5,12 @@
 #include <string>
 
 #include <FindDirectory.h>
+#include <InterfaceDefs.h>
 #include <gtest/gtest.h>
 
 #include "locale/Labels.h"
 #include "locale/LanguageMemory.h"
+#include "platform/screen/InputState.h"
 #include "tests/support/Output.h"
 #include "tests/support/TempFolder.h"
 
@@ -192,6 +194,38 @@ TEST_F(KVLabelTest, LoadingPrintsWhatItDoes)
 				  + "'-\n 20 Bytes |  ..(replaced: 1 )..done\n\n\nmod: "),
 		0u)
 		<< output;
+}
+
+
+// On a file that cannot be opened as well.
+TEST_F(KVLabelTest, HeldKeysAskForTheReport)
+{
+	const struct {
+		uint32 modifiers;
+		const char* names;
+	} cases[] = {{B_COMMAND_KEY | B_LEFT_COMMAND_KEY, "[B_COMMAND_KEY]"},
+		{B_OPTION_KEY, "[B_OPTION_KEY]"}, {B_CONTROL_KEY, "[B_CONTROL_KEY]"},
+		{B_COMMAND_KEY | B_OPTION_KEY | B_CONTROL_KEY,
+			"[B_COMMAND_KEY][B_OPTION_KEY][B_CONTROL_KEY]"}};
+	for (const auto& held : cases) {
+		key_info keys = {};
+		keys.modifiers = held.modifiers;
+		hosted::SetCurrentKeys(keys);
+		const std::string output = test::OutputOf([this] { fCatalogue->LoadLangFile("/none.xx"); });
+		EXPECT_NE(output.find("\nmod: " + std::to_string(held.modifiers) + "  kstates: 0 "
+					  + held.names + "\n- - - - -\n"),
+			std::string::npos)
+			<< output;
+		EXPECT_NE(output.find("\n - ExpMissingStr -\n"), std::string::npos) << output;
+	}
+
+	key_info shift = {};
+	shift.modifiers = B_SHIFT_KEY | B_CAPS_LOCK;
+	hosted::SetCurrentKeys(shift);
+	const std::string output = test::OutputOf([this] { fCatalogue->LoadLangFile("/none.xx"); });
+	EXPECT_NE(output.find("\nmod: 9  kstates: 0 "), std::string::npos) << output;
+	EXPECT_EQ(output.find("ExpMissingStr"), std::string::npos) << output;
+	hosted::SetCurrentKeys(key_info());
 }
 
 

@@ -191,6 +191,31 @@ ToQFont(const BFont& font)
 }
 
 
+bool
+NeedsShaping(const QString& text)
+{
+	struct Range {
+		char16_t first;
+		char16_t last;
+	};
+	// Marks; Hebrew to Tibetan and Hangul's parts; Khmer and Mongolian; joiners; their kin.
+	static constexpr std::array<Range, 7> kRanges = {{
+		{0x0300, 0x036f},
+		{0x0591, 0x10ff},
+		{0x1100, 0x11ff},
+		{0x1700, 0x1cff},
+		{0x200c, 0x200d},
+		{0x20d0, 0x20ff},
+		{0xa880, 0xabff},
+	}};
+	return std::any_of(text.begin(), text.end(), [](QChar character) {
+		return std::any_of(kRanges.begin(), kRanges.end(), [character](const Range& range) {
+			return character.unicode() >= range.first && character.unicode() <= range.last;
+		});
+	});
+}
+
+
 int32
 ClampedLength(const char* text, int32 length)
 {

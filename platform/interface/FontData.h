@@ -19,6 +19,10 @@ struct FontData {
 // calling thread. Null as long as there is no display.
 const QFont* ToQFont(const BFont& font);
 
+// Whether the characters take their shapes from each other: Arabic, Indic and the like, and marks
+// above and below letters.
+bool NeedsShaping(const QString& text);
+
 // The text as it is drawn: without the control characters, which have no width.
 QString VisibleText(const char* text, int32 length);
 

@@ -206,6 +206,14 @@ Painter::DrawText(QPoint where, const QString& text)
 	const int size = font->pixelSize();
 	const int width = static_cast<int>(ceilf(TextWidth(fView.state.font, text)));
 	const QRect bounds(where.x() - size, where.y() - 2 * size, width + 2 * size, 3 * size);
+	// Only where letters join, because it brings kerning and ligatures along.
+	QFont shaping;
+	if (NeedsShaping(text)) {
+		shaping = *font;
+		shaping.setStyleStrategy(
+			static_cast<QFont::StyleStrategy>(font->styleStrategy() & ~QFont::PreferNoShaping));
+		font = &shaping;
+	}
 	_Smooth(bounds, [&](QPainter& painter, const QColor& color) {
 		painter.setFont(*font);
 		painter.setPen(color);

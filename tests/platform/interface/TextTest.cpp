@@ -62,6 +62,24 @@ TEST_F(DrawString, MovesThePenByTheWidth)
 }
 
 
+// Two of the Arabic letter beh.
+TEST_F(DrawString, LettersOfJoiningScriptsAreJoined)
+{
+	const char* const letter = "\xd8\xa8";
+	Canvas joined(60, 30);
+	joined.view->DrawString("\xd8\xa8\xd8\xa8", BPoint(10, 20));
+	Canvas alone(60, 30);
+	alone.view->DrawString(letter, BPoint(10, 20));
+	alone.view->DrawString(letter, BPoint(10 + alone.view->StringWidth(letter), 20));
+	EXPECT_NE(joined.Shape(), alone.Shape());
+	const BRect painted = Painted(joined);
+	EXPECT_TRUE(painted.IsValid());
+	// Joined letters are narrower, never wider than measured.
+	EXPECT_LE(painted.right, 10 + joined.view->StringWidth("\xd8\xa8\xd8\xa8"));
+	EXPECT_LT(painted.Width(), Painted(alone).Width());
+}
+
+
 TEST_F(DrawString, RoundsThePlaceOfTheBaseLine)
 {
 	Canvas first(60, 30);

@@ -3,8 +3,8 @@
 // Drops files on a window as a file manager does, with a whole drag-and-drop exchange of the X
 // Window System (XDND, version 5): drop-files WINDOW X Y URI...
 // or drops something else, in hexadecimal digits: drop-files WINDOW X Y --as TYPE DIGITS
-// X and Y are screen coordinates. Ends with 0 when the target has taken the data and said so, with 3
-// when it refuses them.
+// X and Y are screen coordinates. Ends with 0 when the target has taken the data and said so, with
+// 3 when it refuses them.
 
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
@@ -131,6 +131,7 @@ drop(Drag& drag, long x, long y)
 		return 1;
 	return 0;
 }
+
 
 std::string
 bytes_of(const std::string& digits)

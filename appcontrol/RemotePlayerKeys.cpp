@@ -98,6 +98,32 @@ find_running(const std::array<Player, N>& players)
 
 
 template <size_t N>
+static bool
+is_any_running(const std::array<Player, N>& players)
+{
+	for (const Player& player : players) {
+		if (be_roster->IsRunning(player.signature))
+			return true;
+	}
+	return false;
+}
+
+
+bool
+IsAudioPlayerRunning()
+{
+	return is_any_running(kAudioPlayers);
+}
+
+
+bool
+IsVideoPlayerRunning()
+{
+	return is_any_running(kVideoPlayers);
+}
+
+
+template <size_t N>
 static void
 launch(const std::array<Launch, N>& launches, long key)
 {

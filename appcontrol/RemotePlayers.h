@@ -3,6 +3,7 @@
 #define REMOTE_PLAYERS_H
 
 #include <OS.h>
+#include <SupportDefs.h>
 
 
 // The players that can be steered, by their signatures. Those of two differ in case only.
@@ -20,5 +21,11 @@ inline constexpr char kStampTV[] = "application/x-vnd.Me.stampTV";
 // How long another application may take to accept a message, and how long to answer it.
 inline constexpr bigtime_t kDeliveryLimit = 2000000;
 inline constexpr bigtime_t kReplyLimit = 2000000;
+
+// What IAudioApps(), IVideoApps() and IAnyApps() do not tell, for callers that have to know.
+bool IsAudioPlayerRunning();
+bool IsVideoPlayerRunning();
+// B_BAD_VALUE for a key that starts nothing.
+status_t StartProgramFor(long key);
 
 #endif // REMOTE_PLAYERS_H

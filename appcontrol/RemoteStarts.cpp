@@ -20,6 +20,7 @@
 #include <VolumeRoster.h>
 
 #include "appcontrol/RemoteKeys.h"
+#include "appcontrol/RemotePlayers.h"
 #include "settings/Helpers.h"
 #include "settings/Locations.h"
 
@@ -58,15 +59,25 @@ has_started(status_t status)
 }
 
 
-void
-IAnyApps(long key)
+status_t
+StartProgramFor(long key)
 {
 	for (const Start& start : kStarts) {
 		if (start.key != key)
 			continue;
-		if (!has_started(be_roster->Launch(start.signature, static_cast<BMessage*>(nullptr))))
+		const status_t status = be_roster->Launch(start.signature, static_cast<BMessage*>(nullptr));
+		if (!has_started(status))
 			AnyAlert(start.failure, true);
+		return status == B_ALREADY_RUNNING ? B_OK : status;
 	}
+	return B_BAD_VALUE;
+}
+
+
+void
+IAnyApps(long key)
+{
+	StartProgramFor(key);
 }
 
 

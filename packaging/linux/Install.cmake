@@ -3,13 +3,15 @@
 include(GNUInstallDirs)
 set(PROGRAM_FOLDER ${CMAKE_INSTALL_LIBDIR}/vinyloh)
 
-install(TARGETS VinyloH RUNTIME DESTINATION ${PROGRAM_FOLDER})
+install(TARGETS VinyloH vinyloh-remote RUNTIME DESTINATION ${PROGRAM_FOLDER})
 install(DIRECTORY resources/Language DESTINATION ${PROGRAM_FOLDER})
-file(RELATIVE_PATH program_from_bin /${CMAKE_INSTALL_BINDIR} /${PROGRAM_FOLDER}/VinyloH)
+file(RELATIVE_PATH folder_from_bin /${CMAKE_INSTALL_BINDIR} /${PROGRAM_FOLDER})
 install(CODE "
 	set(bin \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}\")
 	file(MAKE_DIRECTORY \"\${bin}\")
-	file(CREATE_LINK ${program_from_bin} \"\${bin}/VinyloH\" SYMBOLIC)")
+	file(CREATE_LINK ${folder_from_bin}/VinyloH \"\${bin}/VinyloH\" SYMBOLIC)
+	file(CREATE_LINK ${folder_from_bin}/vinyloh-remote \"\${bin}/vinyloh-remote\" SYMBOLIC)")
+install(FILES docs/vinyloh-remote.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES packaging/linux/VinyloH.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES resources/icon/VinyloH.svg
 	DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)

@@ -25,6 +25,10 @@ PROGRAM = {
 	"settings": set(),
 }
 
+# Headers whose calls wait for other applications, and the folder that alone may include them besides
+# their own: no window's thread may stand still for that.
+WAITING = {"appcontrol/RemoteCommands.h": "appcontrol/", "appcontrol/RemotePlayers.h": "appcontrol/"}
+
 C_LIBRARY = {
 	"assert.h", "ctype.h", "errno.h", "fcntl.h", "float.h", "inttypes.h", "limits.h", "locale.h",
 	"math.h", "setjmp.h", "signal.h", "stdarg.h", "stddef.h", "stdint.h", "stdio.h", "stdlib.h",
@@ -67,6 +71,8 @@ def check_program(folder, headers, report):
 			quoted, name = match.group(1) == '"', match.group(2)
 			if quoted:
 				check_local(folder, path, number, name, report)
+				if not path.startswith(WAITING.get(name, "")):
+					report(path, number, f'includes "{name}", which waits for other applications')
 			elif name in headers or name in C_LIBRARY:
 				continue
 			elif "." in name or "/" in name or name[0].isupper():

@@ -47,16 +47,22 @@ inline constexpr size_t kMaxTextSize = 256;
 // Two texts are loaded before the flags, the others after them.
 inline constexpr size_t kFirstTexts = 2;
 inline constexpr std::array<TextPref, 9> kTextPrefs = {{
-	{"rs232_port", [](Prefs& prefs) -> char* { return prefs.rs232_port; }, 80, "serial2"},
-	{"ir_logfile", [](Prefs& prefs) -> char* { return prefs.ir_logfile; }, 64,
-		"/boot/home/_logfile_KORU_"},
-	{"Desktop", [](Prefs& prefs) -> char* { return prefs.Desktop; }, 80, "-empty-"},
-	{"Application", [](Prefs& prefs) -> char* { return prefs.Application; }, 80, "-empty-"},
-	{"Audio", [](Prefs& prefs) -> char* { return prefs.Audio; }, 80, "-empty-"},
-	{"Video", [](Prefs& prefs) -> char* { return prefs.Video; }, 80, "-empty-"},
-	{"Presetfile", [](Prefs& prefs) -> char* { return prefs.Presetfile; }, 80, "_preset_"},
-	{"Layoutfile", [](Prefs& prefs) -> char* { return prefs.Layoutfile; }, 80, "_LAYOUT_"},
-	{"pref_AudioApp", [](Prefs& prefs) -> char* { return prefs.pref_AudioApp; }, 255, "-empty-"},
+	{"rs232_port", [](Prefs& prefs) -> char* { return prefs.rs232_port; },
+		sizeof(Prefs::rs232_port), "serial2"},
+	{"ir_logfile", [](Prefs& prefs) -> char* { return prefs.ir_logfile; },
+		sizeof(Prefs::ir_logfile), "/boot/home/_logfile_KORU_"},
+	{"Desktop", [](Prefs& prefs) -> char* { return prefs.Desktop; }, sizeof(Prefs::Desktop),
+		"-empty-"},
+	{"Application", [](Prefs& prefs) -> char* { return prefs.Application; },
+		sizeof(Prefs::Application), "-empty-"},
+	{"Audio", [](Prefs& prefs) -> char* { return prefs.Audio; }, sizeof(Prefs::Audio), "-empty-"},
+	{"Video", [](Prefs& prefs) -> char* { return prefs.Video; }, sizeof(Prefs::Video), "-empty-"},
+	{"Presetfile", [](Prefs& prefs) -> char* { return prefs.Presetfile; },
+		sizeof(Prefs::Presetfile), "_preset_"},
+	{"Layoutfile", [](Prefs& prefs) -> char* { return prefs.Layoutfile; },
+		sizeof(Prefs::Layoutfile), "_LAYOUT_"},
+	{"pref_AudioApp", [](Prefs& prefs) -> char* { return prefs.pref_AudioApp; },
+		sizeof(Prefs::pref_AudioApp), "-empty-"},
 }};
 
 // Nine flags are loaded before the color, the others after the frames.

@@ -15,6 +15,7 @@
 #include <AppDefs.h>
 #include <Message.h>
 #include <Messenger.h>
+#include <OS.h>
 
 #include "platform/app/Transport.h"
 #include "platform/desktop/Mpris.h"
@@ -40,7 +41,11 @@ struct State {
 	std::deque<Request> requests;
 	std::thread thread;
 	bool finishing = false;
+	// When those that are still waiting are dropped; players that hang must not hold the end.
+	bigtime_t dropTime = 0;
 };
+
+constexpr bigtime_t kFinishLimit = 3000000;
 
 State&
 state()
@@ -240,6 +245,8 @@ run_requests(State& shared)
 	while (true) {
 		shared.changed.wait(lock,
 			[&shared]() { return shared.finishing || !shared.requests.empty(); });
+		if (shared.finishing && system_time() > shared.dropTime)
+			shared.requests.clear();
 		if (shared.requests.empty())
 			return;
 		Request request = std::move(shared.requests.front());
@@ -306,6 +313,7 @@ FinishPlayerRequests()
 	{
 		std::lock_guard<std::mutex> lock(shared.lock);
 		shared.finishing = true;
+		shared.dropTime = system_time() + kFinishLimit;
 		thread = std::move(shared.thread);
 		shared.changed.notify_all();
 	}

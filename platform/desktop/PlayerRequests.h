@@ -25,7 +25,8 @@ status_t RequestFromPlayer(const RunningApp& player, const void* flattened, size
 // Carries the request out, waiting for the player, and fills the reply.
 void PerformRequest(const RunningApp& player, const BMessage& request, BMessage* reply);
 
-// Waits until all requests are through, and ends the thread.
+// Waits until all requests are through, and ends the thread. After three seconds those that have
+// not begun are dropped.
 void FinishPlayerRequests();
 
 } // namespace hosted

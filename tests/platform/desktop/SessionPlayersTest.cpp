@@ -13,6 +13,7 @@
 #include <Roster.h>
 
 #include "platform/desktop/Mpris.h"
+#include "platform/desktop/PlayerRequests.h"
 #include "platform/desktop/Players.h"
 #include "platform/desktop/RunningApps.h"
 #include "tests/platform/desktop/DesktopSupport.h"
@@ -239,6 +240,33 @@ TEST(SessionPlayers, OtherRequestsAreNotUnderstood)
 	EXPECT_EQ(target.SendMessage(B_KEY_DOWN, &reply), B_OK);
 	EXPECT_EQ(reply.what, uint32(B_MESSAGE_NOT_UNDERSTOOD));
 	EXPECT_FALSE(mpv.WaitForEnd(nullptr, std::chrono::milliseconds(1)));
+}
+
+
+TEST(SessionPlayers, OneThatHangsDoesNotHoldTheEnd)
+{
+	SessionApp::Get();
+	test::TempFolder folder;
+	Program mpv(mpv_words({make_music(folder, "tone.wav")}));
+	RunningPlayer player;
+	ASSERT_TRUE(wait_on_bus(mpv.Id(), &player));
+	const BMessenger target(kMpvSignature, mpv.Id());
+	mpv.Kill(SIGSTOP);
+	for (int32 i = 0; i < 20; i++) {
+		BMessage message(B_EXECUTE_PROPERTY);
+		message.AddSpecifier("next");
+		EXPECT_EQ(target.SendMessage(&message, static_cast<BHandler*>(nullptr), 2000000), B_OK);
+	}
+	const bigtime_t start = system_time();
+	hosted::FinishPlayerRequests();
+	EXPECT_LT(system_time() - start, 12000000);
+	// Others are served as before.
+	mpv.Kill(SIGCONT);
+	BMessage reply;
+	EXPECT_TRUE(test::WaitFor([&]() {
+		script(target, B_GET_PROPERTY, "pitch", &reply);
+		return reply.what == uint32(B_REPLY);
+	}));
 }
 
 

@@ -98,13 +98,22 @@ WindowsOf(const BMessenger& application)
 }
 
 
-bool
-IsActiveWindow(const RemoteWindow& window)
+const RemoteWindow*
+FindActiveWindow(const std::vector<RemoteWindow>& windows)
 {
-	BMessage request(B_GET_PROPERTY);
-	request.AddSpecifier("Active");
-	BMessage reply;
-	return ask(window.messenger, &request, &reply) == B_OK && reply.GetBool("result", false);
+	const bigtime_t start = system_time();
+	for (const RemoteWindow& window : windows) {
+		BMessage request(B_GET_PROPERTY);
+		request.AddSpecifier("Active");
+		BMessage reply;
+		const status_t status = ask(window.messenger, &request, &reply);
+		if (status == B_OK && reply.GetBool("result", false))
+			return &window;
+		// A closed window is no reason to give up, one that hangs is.
+		if (status == B_TIMED_OUT || system_time() - start > kListLimit)
+			return nullptr;
+	}
+	return nullptr;
 }
 
 

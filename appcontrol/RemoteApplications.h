@@ -24,8 +24,8 @@ BMessenger FileManager();
 */
 std::vector<RemoteWindow> WindowsOf(const BMessenger& application);
 
-// Whether the window is the active one, as it says itself.
-bool IsActiveWindow(const RemoteWindow& window);
+// The window that says it is the active one; null if none does in time.
+const RemoteWindow* FindActiveWindow(const std::vector<RemoteWindow>& windows);
 void ActivateWindow(const RemoteWindow& window);
 
 #endif // REMOTE_APPLICATIONS_H

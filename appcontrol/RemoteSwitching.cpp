@@ -240,14 +240,14 @@ ICloseThisFAW()
 	if (!may_close(active.signature, kKeptApplications.data(), kKeptApplications.size()))
 		return;
 
-	for (const RemoteWindow& window : WindowsOf(BMessenger(active.signature, active.team))) {
-		if (!IsActiveWindow(window))
-			continue;
-		if (may_close(window.title.String(), kKeptWindows.data(), kKeptWindows.size())) {
-			BMessage request(B_QUIT_REQUESTED);
-			window.messenger.SendMessage(&request, static_cast<BHandler*>(nullptr), kDeliveryLimit);
-		}
+	const std::vector<RemoteWindow> windows = WindowsOf(BMessenger(active.signature, active.team));
+	const RemoteWindow* const front = FindActiveWindow(windows);
+	if (front == nullptr) {
+		printf(" oops - no front window\n");
 		return;
 	}
-	printf(" oops - no front window\n");
+	if (may_close(front->title.String(), kKeptWindows.data(), kKeptWindows.size())) {
+		BMessage request(B_QUIT_REQUESTED);
+		front->messenger.SendMessage(&request, static_cast<BHandler*>(nullptr), kDeliveryLimit);
+	}
 }

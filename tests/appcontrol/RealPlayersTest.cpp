@@ -2,6 +2,7 @@
 // Real players, steered as the first audio player.
 #include <functional>
 #include <math.h>
+#include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -155,6 +156,25 @@ protected:
 			<< Title();
 	}
 
+	void DelaysOnlyWhileItHangs()
+	{
+		fPlayer->Kill(SIGSTOP);
+		for (const uint32 command : {kCommandLouder, kCommandStop, kCommandMute}) {
+			const bigtime_t start = system_time();
+			DoCommand(command);
+			EXPECT_LT(system_time() - start, 16000000);
+		}
+		fPlayer->Kill(SIGCONT);
+		// What it was asked meanwhile it may do late.
+		EXPECT_TRUE(test::WaitFor(
+			[this] {
+				DoCommand(kCommandStop);
+				bool isPlaying = true;
+				return fRemote->GetIsPlaying(&isPlaying) && !isPlaying;
+			},
+			kPatience));
+	}
+
 	void Quits()
 	{
 		EXPECT_EQ(BMessenger(test::kSoundplaySignature).SendMessage(B_QUIT_REQUESTED), B_OK);
@@ -214,6 +234,13 @@ TEST_F(RealPlayersTest, MpvGoesThroughItsTitlesAndQuits)
 	StartMpv();
 	GoesToTheNextTitleAndBack();
 	Quits();
+}
+
+
+TEST_F(RealPlayersTest, MpvDelaysOnlyWhileItHangs)
+{
+	StartMpv();
+	DelaysOnlyWhileItHangs();
 }
 
 

@@ -216,6 +216,20 @@ TEST_F(SwitchingTest, FrontWindowIsClosed)
 }
 
 
+TEST_F(SwitchingTest, WindowsThatDoNotTellDelayOnly)
+{
+	ScriptedPlayer front("application/x-vnd.front",
+		{"PLAYER_WINDOWS=one|two|three|four", "PLAYER_FAULT=silent-active"});
+	ASSERT_TRUE(front.IsReady());
+	ASSERT_TRUE(front.IsActive());
+	ASSERT_TRUE(Heard(front, "window four: active"));
+	const bigtime_t start = system_time();
+	EXPECT_EQ(OutputOf([] { ICloseThisFAW(); }), " oops - no front window\n");
+	EXPECT_LT(system_time() - start, kQuestionLimit);
+	EXPECT_EQ(front.Take(), Lines());
+}
+
+
 TEST_F(SwitchingTest, SomeWindowsAreNeverClosed)
 {
 	for (const char* title : {"Tracker Status", "/boot/home/Desktop"}) {

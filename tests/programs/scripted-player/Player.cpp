@@ -47,6 +47,8 @@ enum class Fault {
 	// Has a million windows, or never tells how many.
 	kEndlessWindows,
 	kSilentWindows,
+	// Its windows never tell whether they are active.
+	kSilentActive,
 };
 
 const std::map<std::string, Fault> kFaults = {{"late", Fault::kLate}, {"silent", Fault::kSilent},
@@ -55,7 +57,7 @@ const std::map<std::string, Fault> kFaults = {{"late", Fault::kLate}, {"silent",
 	{"volume-late", Fault::kVolumeLate}, {"volume-silent", Fault::kVolumeSilent},
 	{"dies-at-second-track", Fault::kDiesAtSecondTrack}, {"dies-at-volume", Fault::kDiesAtVolume},
 	{"dies-at-command", Fault::kDiesAtCommand}, {"endless-windows", Fault::kEndlessWindows},
-	{"silent-windows", Fault::kSilentWindows}};
+	{"silent-windows", Fault::kSilentWindows}, {"silent-active", Fault::kSilentActive}};
 
 constexpr bigtime_t kLateness = 3000000;
 
@@ -186,6 +188,15 @@ public:
 	{
 		fprintf(sRecord, "window %s: quit\n", Title());
 		return true;
+	}
+
+	BHandler* ResolveSpecifier(BMessage* message, int32 index, BMessage* specifier, int32 what,
+		const char* property) override
+	{
+		if (sFault != Fault::kSilentActive || std::string(property) != "Active")
+			return BWindow::ResolveSpecifier(message, index, specifier, what, property);
+		never_answer(this);
+		return nullptr;
 	}
 
 	void WindowActivated(bool active) override

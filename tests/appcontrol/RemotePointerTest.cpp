@@ -146,3 +146,28 @@ TEST_F(RemotePointerTest, ShowsWhatIsInFront)
 	Move(BPoint(100, 100), 0x5F, nullptr, &name);
 	EXPECT_STREQ(name.Text(), "scripted-player");
 }
+
+
+// Where programs may not move the pointer. Run by the test below.
+TEST_F(RemotePointerTest, DISABLED_PointerStaysWhereItIs)
+{
+	const BPoint before = Pointer();
+	const bigtime_t start = system_time();
+	EXPECT_EQ(Move(BPoint(100, 100), 0x5F), " the desktop does not let the pointer be moved\n");
+	EXPECT_LT(system_time() - start, 5000000);
+	EXPECT_EQ(Pointer(), before);
+}
+
+
+TEST_F(RemotePointerTest, SaysSoWhereThePointerCannotBeMoved)
+{
+	test::Program program({"/proc/self/exe", "--gtest_also_run_disabled_tests",
+							  "--gtest_filter=*DISABLED_PointerStaysWhereItIs"},
+		{"QT_QPA_PLATFORM=minimal"});
+	EXPECT_TRUE(program.WaitForEnd());
+	// Some of the lines are empty.
+	bool hasPassed = false;
+	for (int i = 0; i < 50 && !hasPassed; i++)
+		hasPassed = program.ReadLine(std::chrono::milliseconds(50)) == "[  PASSED  ] 1 test.";
+	EXPECT_TRUE(hasPassed);
+}

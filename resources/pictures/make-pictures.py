@@ -2,11 +2,13 @@
 """Draws the pictures that are built into the program and writes them as C++ sources.
 
 Each is drawn with smooth edges and turned into the system's 8-bit palette. Run it after a change of
-the drawings; the sources that it writes are kept with the others.
+the drawings; the sources that it writes are kept with the others. With --check it writes nothing and
+fails if they are not what it would write.
 """
 
 import math
 import os
+import sys
 
 ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 
@@ -221,10 +223,19 @@ def main():
 		],
 		"AudioCDPicture.cpp": [("kaudioCDBits", 17689, render(132, 132, audio_cd))],
 	}
+	status = 0
 	for name, pictures in files.items():
-		with open(os.path.join(ROOT, "entryview", name), "w", encoding="ascii") as file:
-			file.write(source(pictures))
+		path = os.path.join(ROOT, "entryview", name)
+		if "--check" not in sys.argv[1:]:
+			with open(path, "w", encoding="ascii") as file:
+				file.write(source(pictures))
+			continue
+		with open(path, encoding="ascii") as file:
+			if file.read() != source(pictures):
+				print(f"{name} is not what this script writes")
+				status = 1
+	return status
 
 
 if __name__ == "__main__":
-	main()
+	sys.exit(main())

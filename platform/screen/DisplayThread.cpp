@@ -1,6 +1,7 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
 #include "platform/screen/DisplayThread.h"
 
+#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <errno.h>
@@ -20,6 +21,11 @@
 #include <QImage>
 #include <QPainter>
 #include <QSocketNotifier>
+
+#include <AppDefs.h>
+#include <Application.h>
+#include <Message.h>
+#include <Messenger.h>
 
 #include "platform/screen/QtMessages.h"
 
@@ -45,6 +51,10 @@ struct State {
 	bool failed = false;
 	bool stopping = false;
 };
+
+// How long a program may take to end when it has lost its display.
+constexpr std::chrono::seconds kLastMoment(5);
+
 
 // Lives as long as the process: jobs may still be posted while static objects are destroyed.
 State&
@@ -116,6 +126,33 @@ run_jobs(State& shared)
 }
 
 
+void
+drop_jobs(State& shared)
+{
+	std::lock_guard<std::mutex> lock(shared.mutex);
+	shared.running = false;
+	for (Job& job : shared.jobs) {
+		if (job.done != nullptr)
+			*job.done = true;
+	}
+	shared.jobs.clear();
+	shared.changed.notify_all();
+}
+
+
+// Qt ends the process when the display server is gone, from within the display thread. The program
+// gets a moment to save what it has; from here on it runs without a display.
+void
+quit_without_display(State& shared)
+{
+	drop_jobs(shared);
+	BMessage quit(B_QUIT_REQUESTED);
+	be_app_messenger.SendMessage(&quit, static_cast<BHandler*>(nullptr), 0);
+	std::unique_lock<std::mutex> lock(shared.mutex);
+	shared.changed.wait_for(lock, kLastMoment, [&shared]() { return shared.stopping; });
+}
+
+
 // The process may call exit() while a window paints; destroying Qt's font caches under its feet
 // would crash it. Registered after the first text was drawn, so that it runs before Qt's own.
 void
@@ -123,12 +160,16 @@ leave_at_once(int status, void*)
 {
 	State& shared = state();
 	bool running;
+	bool isDisplayLost;
 	{
 		std::lock_guard<std::mutex> lock(shared.mutex);
 		running = shared.running;
+		isDisplayLost = shared.thread.get_id() == std::this_thread::get_id();
 	}
 	if (!running)
 		return;
+	if (isDisplayLost)
+		quit_without_display(shared);
 	fflush(nullptr);
 	_exit(status);
 }
@@ -151,20 +192,6 @@ report(State& shared, bool opened)
 	shared.opened = opened;
 	shared.failed = !opened;
 	shared.running = opened;
-	shared.changed.notify_all();
-}
-
-
-void
-drop_jobs(State& shared)
-{
-	std::lock_guard<std::mutex> lock(shared.mutex);
-	shared.running = false;
-	for (Job& job : shared.jobs) {
-		if (job.done != nullptr)
-			*job.done = true;
-	}
-	shared.jobs.clear();
 	shared.changed.notify_all();
 }
 
@@ -242,6 +269,7 @@ DisplayThread::Stop()
 		if (!shared.thread.joinable())
 			return;
 		shared.stopping = true;
+		shared.changed.notify_all();
 		thread = std::move(shared.thread);
 	}
 	wake(shared);

@@ -99,6 +99,15 @@ class Saving(unittest.TestCase):
 			self.assertEqual(program.process.wait(20), 0)
 			self.assertEqual(text_of(self.playlist), self.new)
 
+	def test_a_display_that_goes_away_saves_the_list(self):
+		with Session() as session:
+			self.prepare(session)
+			program = self.start(session, "lost")
+			display, = (process for name, process in session.processes if name == "Xvfb")
+			display.kill()
+			self.assertGreaterEqual(program.process.wait(20), 0, "ended by a signal")
+			self.assertEqual(text_of(self.playlist), self.new)
+
 	def test_a_program_that_is_killed_leaves_a_whole_list(self):
 		with Session() as session:
 			self.prepare(session)

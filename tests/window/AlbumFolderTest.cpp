@@ -6,6 +6,7 @@
 #include "listview/MxView.h"
 #include "settings/Prefs.h"
 #include "tests/support/Popups.h"
+#include "tests/support/Wait.h"
 #include "tests/window/MediaWindowFixture.h"
 #include "window/BitmapPath.h"
 #include "window/MediaFileOps.h"
@@ -132,9 +133,13 @@ TEST_F(AlbumFolder, VanishedFolderIsTold)
 	const std::string output = Do(MF_FOLDER, "", number);
 	EXPECT_TRUE(contains(output, " InitCheck()\n"));
 	EXPECT_TRUE(Window().fListView->pathTrouble);
-	ASSERT_TRUE(test::WaitForDialog());
-	while (test::WaitForDialog() && test::ClickDialogButton("OK") && !test::WaitForNoDialog())
-		continue;
+	// The folder cannot be read, and the file manager has nothing to open.
+	int closed = 0;
+	EXPECT_TRUE(test::WaitFor([&closed] {
+		closed += test::ClickDialogButton("OK") ? 1 : 0;
+		return closed == 2;
+	}));
+	EXPECT_TRUE(test::WaitForNoDialog());
 	EXPECT_FALSE(Window().fFolderShown);
 }
 

@@ -2,6 +2,7 @@
 // The pointer and the caller's own windows.
 #include "appcontrol/RemoteCommands.h"
 
+#include <math.h>
 #include <stdio.h>
 
 #include <AppDefs.h>
@@ -87,16 +88,20 @@ static void
 move_pointer(BPoint where)
 {
 	const BRect screen = BScreen().Frame();
-	if (screen.IsValid())
-		where.ConstrainTo(screen);
+	if (!isfinite(where.x) || !isfinite(where.y) || !screen.IsValid()) {
+		printf("Mouse-oops\n");
+		return;
+	}
+	where.ConstrainTo(screen);
+	where.Set(floorf(where.x), floorf(where.y));
 	set_mouse_position(static_cast<int32>(where.x), static_cast<int32>(where.y));
 
 	const bigtime_t start = system_time();
 	do {
+		// A desktop that keeps the place for itself may tell any.
 		BPoint now;
-		if (get_mouse(&now, nullptr) == B_OK
-			&& static_cast<int32>(now.x) == static_cast<int32>(where.x)
-			&& static_cast<int32>(now.y) == static_cast<int32>(where.y))
+		if (get_mouse(&now, nullptr) == B_OK && fabsf(now.x - where.x) < 1
+			&& fabsf(now.y - where.y) < 1)
 			return;
 		snooze(5000);
 	} while (system_time() - start < kPointerLimit);

@@ -1,4 +1,5 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#include <math.h>
 #include <thread>
 
 #include <InterfaceDefs.h>
@@ -84,6 +85,9 @@ TEST_F(RemotePointerTest, PointerMovesBySteps)
 	EXPECT_EQ(Move(Pointer(), 0x40), "");
 	EXPECT_EQ(Pointer(), BPoint(120, 80));
 	EXPECT_EQ(Move(Pointer(), 0x3E), "");
+	EXPECT_EQ(Pointer(), BPoint(120, 180));
+	EXPECT_EQ(Move(BPoint(NAN, 100), 0x5F), "Mouse-oops\n");
+	EXPECT_EQ(Move(BPoint(100, INFINITY), 0x5F), "Mouse-oops\n");
 	EXPECT_EQ(Pointer(), BPoint(120, 180));
 	// It stays on the screen.
 	EXPECT_EQ(Move(BPoint(5, 5), 0x5B), "");

@@ -270,9 +270,13 @@ KVLangMenu::FollowLangFile(const BMessage& message, const char* const* list)
 	if (fCatalogue == nullptr || message.FindString("_LangFilePath", &chosen) != B_OK)
 		return;
 
+	// Anybody may send the message: there need not be a name in it.
+	const BPath path(chosen);
+	if (path.Leaf() == nullptr)
+		return;
 	for (int32 index = 0; index < fItemCount; index++) {
 		const char* const own = file_of(ItemAt(index));
-		if (own == nullptr || strcmp(BPath(own).Leaf(), BPath(chosen).Leaf()) != 0)
+		if (own == nullptr || strcmp(BPath(own).Leaf(), path.Leaf()) != 0)
 			continue;
 		if (fCatalogue->altLangFile == BPath(own))
 			return;

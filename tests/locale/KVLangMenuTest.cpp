@@ -236,6 +236,10 @@ TEST_F(KVLangMenuTest, FollowsNobodyToAFileThatIsNotInTheMenu)
 	EXPECT_EQ(test::OutputOf([&] { menu.FollowLangFile(message, eLabel); }), "");
 	message.AddString("_LangFilePath", "/elsewhere/KORU-Remote.deDE");
 	EXPECT_EQ(test::OutputOf([&] { menu.FollowLangFile(message, eLabel); }), "");
+	for (const char* path : {"", "/", "..", "KORU-Haiku"}) {
+		message.ReplaceString("_LangFilePath", path);
+		EXPECT_EQ(test::OutputOf([&] { menu.FollowLangFile(message, eLabel); }), "") << path;
+	}
 	EXPECT_STREQ(getLabel(6), "Edit");
 	menu.fCatalogue = nullptr;
 	message.ReplaceString("_LangFilePath", "KORU-Haiku.deDE");

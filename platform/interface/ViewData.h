@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <QRegion>
+#include <QString>
 
 #include <Font.h>
 #include <View.h>
@@ -103,6 +104,9 @@ struct ViewData {
 	std::vector<DrawState> stack;
 	std::vector<ColoredLine> lines;
 
+	// The texts drawn since the last update of the view, in their order; null for none.
+	std::unique_ptr<std::vector<QString>> texts;
+
 	// Null while the view is not attached.
 	TreeData* tree = nullptr;
 	// The root's own.
@@ -117,6 +121,8 @@ struct ViewData {
 
 	static ViewData& Of(const BView& view) { return *view.fData; }
 	static ViewData& Of(const BView* view) { return *view->fData; }
+
+	void NoteText(const QString& text);
 
 	BRect Bounds() const { return BRect(scroll.x, scroll.y, scroll.x + width, scroll.y + height); }
 	BRect Frame() const

@@ -2,6 +2,7 @@
 // Views: drawing of text and pictures.
 #include <View.h>
 
+#include <algorithm>
 #include <math.h>
 #include <string.h>
 
@@ -92,6 +93,7 @@ BView::DrawString(const char* string, int32 length, BPoint location, escapement_
 	} else {
 		width = font.StringWidth(string, length);
 		if (!painter.IsEmpty()) {
+			fData->NoteText(hosted::VisibleText(string, length));
 			const BPoint where = painter.ToHost(location);
 			painter.DrawText(
 				QPoint(hosted::FloorPixel(roundf(where.x)), hosted::FloorPixel(roundf(where.y))),
@@ -208,4 +210,18 @@ BView::ClearViewBitmap()
 {
 	fData->viewBitmap.reset();
 	Invalidate();
+}
+
+
+// A text that is drawn once more, for a shadow or another time, is said once.
+void
+hosted::ViewData::NoteText(const QString& text)
+{
+	const QString said = text.simplified();
+	if (said.isEmpty() || tree == nullptr || tree->host->Window() == nullptr)
+		return;
+	if (texts == nullptr)
+		texts = std::make_unique<std::vector<QString>>();
+	if (std::find(texts->begin(), texts->end(), said) == texts->end())
+		texts->push_back(said);
 }

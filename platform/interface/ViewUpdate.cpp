@@ -159,6 +159,7 @@ UpdateViews(ViewHost& host, BView& root, const QRegion& pixels)
 		for (size_t index = 0; index < views.size(); index++) {
 			BView* view = views[index];
 			if (view != nullptr && (view->Flags() & B_WILL_DRAW) != 0) {
+				ViewData::Of(view).texts.reset();
 				call_hook(*view, clipped, views, index, [view](BRect rect) { view->Draw(rect); });
 			}
 		}

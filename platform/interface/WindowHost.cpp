@@ -6,11 +6,13 @@
 #include <utility>
 
 #include <QPainter>
+#include <QStringList>
 
 #include <AppDefs.h>
 #include <Messenger.h>
 #include <View.h>
 
+#include "platform/interface/ViewData.h"
 #include "platform/interface/ViewPrivate.h"
 #include "platform/screen/NativeWindow.h"
 
@@ -120,6 +122,24 @@ WindowHost::_WakeWindow()
 }
 
 
+// What the views that can be seen say.
+static std::vector<ShownText>
+shown_texts(BView& root)
+{
+	std::vector<ShownText> texts;
+	ForSubtree(&root, [&texts](BView* view) {
+		const ViewData& data = ViewData::Of(view);
+		if (data.texts == nullptr)
+			return;
+		const QRect frame = data.VisibleRect();
+		if (!frame.isEmpty())
+			texts.push_back(
+				{frame, QStringList(data.texts->begin(), data.texts->end()).join(", ")});
+	});
+	return texts;
+}
+
+
 void
 WindowHost::_PaintPending()
 {
@@ -131,6 +151,8 @@ WindowHost::_PaintPending()
 		UpdateViews(*this, *fRoot, region);
 		fIsPainting = false;
 	}
+	if (!fPainted.isEmpty())
+		fNative->SetTexts(shown_texts(*fRoot));
 	Flush();
 	// What was invalidated while it was being drawn comes after the messages that wait.
 	if (!fPending.isEmpty() && !fWakePosted) {

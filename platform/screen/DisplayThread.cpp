@@ -27,6 +27,7 @@
 #include <Message.h>
 #include <Messenger.h>
 
+#include "platform/screen/Accessibility.h"
 #include "platform/screen/QtMessages.h"
 
 
@@ -219,6 +220,7 @@ display_main(State& shared)
 			report(shared, false);
 			return;
 		}
+		OfferAccessibility();
 		draw_first_text();
 		static bool sGuarded = false;
 		if (!sGuarded) {

@@ -150,6 +150,22 @@ NativeWidget::QtOffset() const
 }
 
 
+int
+NativeWidget::CountTexts() const
+{
+	return static_cast<int>(fWindow->Texts().size());
+}
+
+
+ShownText
+NativeWidget::TextAt(int index) const
+{
+	const std::vector<ShownText> texts = fWindow->Texts();
+	const size_t place = static_cast<size_t>(index);
+	return place < texts.size() ? texts[place] : ShownText();
+}
+
+
 bool
 NativeWidget::IsBlocked() const
 {

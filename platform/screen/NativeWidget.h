@@ -10,6 +10,7 @@
 
 #include <SupportDefs.h>
 
+#include "platform/screen/Accessibility.h"
 #include "platform/screen/NativeWindow.h"
 
 class BMessage;
@@ -34,6 +35,10 @@ public:
 	QPointF ToScreen(const QPointF& where) const;
 	QPointF FromScreen(const QPointF& screenWhere) const;
 	QPoint QtOffset() const;
+
+	// What the views show, for screen readers; empty where there is no such view.
+	int CountTexts() const;
+	ShownText TextAt(int index) const;
 
 	// Whether an open modal window keeps input from this one.
 	bool IsBlocked() const;

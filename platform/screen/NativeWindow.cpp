@@ -4,6 +4,8 @@
 #include <string.h>
 #include <utility>
 
+#include <QAccessible>
+
 #include "platform/screen/DisplayThread.h"
 #include "platform/screen/NativeWidget.h"
 
@@ -128,6 +130,33 @@ NativeWindow::Show(const QImage& picture, const QRegion& region)
 		}
 	}
 	_PostRepaint();
+}
+
+
+void
+NativeWindow::SetTexts(std::vector<ShownText> texts)
+{
+	{
+		std::lock_guard<std::mutex> lock(fMutex);
+		if (fTexts == texts)
+			return;
+		fTexts = std::move(texts);
+	}
+	std::shared_ptr<NativeWindow> self = shared_from_this();
+	DisplayThread::Post([self]() {
+		if (!QAccessible::isActive() || self->Widget() == nullptr)
+			return;
+		QAccessibleEvent changed(self->Widget(), QAccessible::ObjectReorder);
+		QAccessible::updateAccessibility(&changed);
+	});
+}
+
+
+std::vector<ShownText>
+NativeWindow::Texts() const
+{
+	std::lock_guard<std::mutex> lock(fMutex);
+	return fTexts;
 }
 
 

@@ -18,6 +18,8 @@
 #include <Point.h>
 #include <SupportDefs.h>
 
+#include "platform/screen/Accessibility.h"
+
 
 namespace hosted {
 
@@ -72,6 +74,9 @@ public:
 
 	// Copies the region of the picture and shows it.
 	void Show(const QImage& picture, const QRegion& region);
+	// What the views of the picture say, for screen readers.
+	void SetTexts(std::vector<ShownText> texts);
+	std::vector<ShownText> Texts() const;
 	// A copy of the picture as shown last.
 	QImage Picture() const;
 
@@ -98,6 +103,7 @@ private:
 	bool fRepaintPosted = false;
 	std::shared_ptr<const ViewDrag> fDrag;
 	QImage fPicture;
+	std::vector<ShownText> fTexts;
 	// No QRegion, whose data two threads would share.
 	std::vector<QRect> fNewPixels;
 	// Belongs to the display thread.

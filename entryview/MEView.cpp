@@ -93,6 +93,7 @@ MEView::~MEView()
 void
 MEView::LookForIcon(BPath* path)
 {
+	fLookedForIcon = true;
 	const BNode node(path->Path());
 	if (node.InitCheck() != B_OK) {
 		fFound = false;

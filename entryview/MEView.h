@@ -55,6 +55,8 @@ public:
 	int32 fNumber;
 	// Owned, kept for the tile's life.
 	BPopUpMenu* fContextMenu = nullptr;
+	// LookForIcon() has run.
+	bool fLookedForIcon = false;
 	bool fFound = true;
 	bool fCoverDrawn = false;
 	// Set by the list view.

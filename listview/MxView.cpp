@@ -255,8 +255,8 @@ MxView::_AddTiles(bool quiet)
 				tile->fImageNumber = facts.image;
 			}
 		}
-		tile->LookForIcon(path);
 	}
+	_LookForIconsLater();
 }
 
 

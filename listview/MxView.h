@@ -106,9 +106,16 @@ public:
 	Clock clock = system_time;
 
 private:
+	// To the view itself: let more tiles read their files.
+	static constexpr uint32 kMsgLookForIcons = 'LkFI';
+
 	MEView* _TileAt(int32 index) const;
 	void _RemoveTiles();
 	void _AddTiles(bool quiet);
+	void _LookForIcon(MEView* tile);
+	bool _LookForIcons(bigtime_t limit);
+	void _LookForIconsLater();
+	void _LookForMoreIcons();
 	void _ForgetTiming();
 	void _PlaceMarks();
 	void _LoadBackground();
@@ -151,6 +158,10 @@ private:
 	// The row of the centered tile at the last drawing, and the area of the button column.
 	float fDrawnCenterY = 0;
 	BRect fButtonStrip;
+	// The tiles before this one have read their files.
+	int32 fFirstUnread = 0;
+	// The message that lets more of them do so is under way.
+	bool fLookingForIcons = false;
 };
 
 #endif // MX_VIEW_H

@@ -67,6 +67,9 @@ MxView::MessageReceived(BMessage* message)
 			break;
 		case B_MOUSE_WHEEL_CHANGED:
 			break;
+		case kMsgLookForIcons:
+			_LookForMoreIcons();
+			break;
 		case kMsgLanguageChanged:
 			_ChangeLanguage(message);
 			break;

@@ -74,6 +74,7 @@ MxView::AddWPopMenu()
 	BPoint where;
 	uint32 buttons;
 	GetMouse(&where, &buttons, false);
+	_LookForIcons(B_INFINITE_TIMEOUT);
 	const int32 unmeasuredCount = _CountUnmeasured();
 	if (popMenu == nullptr)
 		_BuildMenu(unmeasuredCount);

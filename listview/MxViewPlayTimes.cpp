@@ -85,6 +85,8 @@ MxView::_MeasureTitle(int32 index, const BPath& path)
 	const MeasuredLength length(measuredSeconds);
 	MEView* tile = _TileAt(index);
 	if (tile != nullptr) {
+		// Not after the time is known, in case it cannot be written.
+		_LookForIcon(tile);
 		tile->fMinutes = length.minutes;
 		tile->fSeconds = length.seconds;
 		tile->fLengthCode = length.packed;

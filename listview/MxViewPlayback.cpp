@@ -53,6 +53,7 @@ MxView::CenterMediaFile(long index, bool startPlay, long step)
 
 	MEView* tile = _TileAt(index);
 	if (tile != nullptr) {
+		_LookForIcon(tile);
 		tile->MoveTo(centered);
 		centeredIndex = index;
 		if (startPlay)
@@ -113,6 +114,8 @@ MxView::_PlaceTiles(int32 target, BPoint centered)
 	int32 index = 0;
 	for (BView* tile = ChildAt(0); tile != nullptr; tile = tile->NextSibling(), index++) {
 		if (TileColumn::IsNear(index, target)) {
+			if (MEView* near = dynamic_cast<MEView*>(tile))
+				_LookForIcon(near);
 			tile->MoveTo(column.PositionFor(index, target));
 			visibleCount++;
 		} else {
@@ -238,6 +241,7 @@ MxView::CalcContinousPlaytime()
 {
 	printf(" CalcContinousPlaytime:\t ");
 	printf(" ab %ld|", static_cast<long>(nextIndex));
+	_LookForIcons(B_INFINITE_TIMEOUT);
 	float playMinutes = 0;
 	for (int32 index = std::max<int32>(nextIndex, 0); index < CountChildren(); index++) {
 		const MEView* tile = _TileAt(index);

@@ -21,6 +21,8 @@ protected:
 	{
 		AddTitles(kCount, "01:00");
 		MakeView();
+		// The window may have handled messages before it was locked.
+		fView->ChildsFromList(false);
 	}
 
 	// Lets the window handle its messages until the tile has read its file.

@@ -42,6 +42,22 @@ class Hardship(unittest.TestCase):
 			with open(os.path.join(session.home, "_koru_media_list"), encoding="utf-8") as file:
 				self.assertEqual(file.read(), path + "\n")
 
+	def test_with_a_list_of_100000_lines_it_starts_and_loses_none(self):
+		with Session() as session:
+			lines = "".join(f"/nowhere/album {number // 12}/title {number}.mp3\n"
+				for number in range(100000))
+			playlist = os.path.join(session.home, "_koru_media_list")
+			with open(playlist, "w", encoding="utf-8") as file:
+				file.write(lines)
+			path = os.path.join(session.home, "one.mp3")
+			make_title(path, 1, "One", "Nobody", 1)
+			program = Program(session, os.path.join(session.root, "log"))
+			self.assertEqual(program.drop([path]), 0)
+			program.wait_for_text(" add to mflist")
+			self.assertEqual(program.close(), 0)
+			with open(playlist, encoding="utf-8") as file:
+				self.assertEqual(file.read(), lines + path + "\n")
+
 	def test_without_a_home_folder_it_opens_and_closes(self):
 		with Session() as session:
 			missing = "/nonexistent/home"

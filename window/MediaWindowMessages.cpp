@@ -30,7 +30,8 @@ struct ModifierName {
 	const char* name;
 };
 
-constexpr std::array<ModifierName, 10> kModifierNames = {{
+// The right Control key has none: it shows the state instead.
+constexpr std::array<ModifierName, 11> kModifierNames = {{
 	{B_SHIFT_KEY, "B_SHIFT_KEY"},
 	{B_CONTROL_KEY, "B_CONTROL_KEY"},
 	{B_CAPS_LOCK, "B_CAPS_LOCK"},
@@ -39,6 +40,7 @@ constexpr std::array<ModifierName, 10> kModifierNames = {{
 	{B_LEFT_COMMAND_KEY, "B_LEFT_COMMAND_KEY"},
 	{B_RIGHT_COMMAND_KEY, "B_RIGHT_COMMAND_KEY"},
 	{B_LEFT_CONTROL_KEY, "B_LEFT_CONTROL_KEY"},
+	{B_RIGHT_CONTROL_KEY, nullptr},
 	{B_LEFT_OPTION_KEY, "B_LEFT_OPTION_KEY"},
 	{B_RIGHT_OPTION_KEY, "B_RIGHT_OPTION_KEY"},
 }};
@@ -297,11 +299,13 @@ MEDIA_Window::AddOptionalByWinKey(BMessage* message)
 {
 	const uint32 modifiers = static_cast<uint32>(message->GetInt32("modifiers", 0));
 	for (const ModifierName& modifier : kModifierNames) {
-		if ((modifiers & modifier.mask) != 0)
+		if ((modifiers & modifier.mask) == 0)
+			continue;
+		if (modifier.name != nullptr)
 			printf(".. %s\n", modifier.name);
+		else
+			_PrintStatus();
 	}
-	if ((modifiers & B_RIGHT_CONTROL_KEY) != 0)
-		_PrintStatus();
 }
 
 

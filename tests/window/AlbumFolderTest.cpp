@@ -1,4 +1,6 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#include <set>
+
 #include <unistd.h>
 
 #include <List.h>
@@ -133,12 +135,18 @@ TEST_F(AlbumFolder, VanishedFolderIsTold)
 	const std::string output = Do(MF_FOLDER, "", number);
 	EXPECT_TRUE(contains(output, " InitCheck()\n"));
 	EXPECT_TRUE(Window().fListView->pathTrouble);
-	// The folder cannot be read, and the file manager has nothing to open.
-	int closed = 0;
-	EXPECT_TRUE(test::WaitFor([&closed] {
-		closed += test::ClickDialogButton("OK") ? 1 : 0;
-		return closed == 2;
-	}));
+	EXPECT_TRUE(contains(output, "no items, open Folder please!\n"));
+	// One of the folder, one of what the file manager should have opened, in either order.
+	std::set<std::string> texts;
+	for (int count = 0; count < 2; count++) {
+		ASSERT_TRUE(test::WaitForDialog());
+		const std::string text = test::DialogText();
+		texts.insert(text);
+		ASSERT_TRUE(test::WaitFor([] { return test::ClickDialogButton("OK"); }));
+		EXPECT_TRUE(test::WaitFor([&] { return test::DialogText() != text; }));
+	}
+	EXPECT_EQ(texts,
+		(std::set<std::string>{" OpenError: \n" + folder, folder + "\n ..File not found :("}));
 	EXPECT_TRUE(test::WaitForNoDialog());
 	EXPECT_FALSE(Window().fFolderShown);
 }

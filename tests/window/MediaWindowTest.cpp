@@ -336,6 +336,21 @@ TEST_F(MediaWindow, ModifiersAreNamed)
 }
 
 
+TEST_F(MediaWindow, EachModifierHasItsLineInTheirOrder)
+{
+	BMessage message(B_UNMAPPED_KEY_DOWN);
+	message.AddInt32("modifiers", 0xff0f);
+	const std::string output = Send(message);
+	const std::string begin
+		= ".. B_SHIFT_KEY\n.. B_CONTROL_KEY\n.. B_CAPS_LOCK\n.. B_LEFT_SHIFT_KEY\n"
+		  ".. B_RIGHT_SHIFT_KEY\n.. B_LEFT_COMMAND_KEY\n.. B_RIGHT_COMMAND_KEY\n"
+		  ".. B_LEFT_CONTROL_KEY\nshow TOPLIST-Info: \n";
+	EXPECT_EQ(output.substr(0, begin.size()), begin);
+	const std::string end = " Times \n.. B_LEFT_OPTION_KEY\n.. B_RIGHT_OPTION_KEY\n";
+	EXPECT_EQ(output.substr(output.size() - end.size()), end);
+}
+
+
 TEST_F(MediaWindow, RightControlShowsTheState)
 {
 	WritePlaylist({"/music/a.mp3", "/other/b.mp3"});

@@ -1,11 +1,15 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
 #include "appcontrol/PreferredAudioApp.h"
 
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <string>
 
 #include <stdio.h>
+#include <stdlib.h>
 #include <string.h>
+#include <sys/stat.h>
 
 #include <Menu.h>
 #include <MenuItem.h>
@@ -19,6 +23,7 @@
 #include "settings/Prefs.h"
 #include "tests/support/RunningApplication.h"
 #include "tests/support/Output.h"
+#include "tests/support/TempFolder.h"
 
 
 namespace {
@@ -32,6 +37,24 @@ protected:
 		Prefs::DeleteMe();
 	}
 
+	// Two players of the user's own: one is known, the other's signature differs by its case.
+	static void SetUpTestSuite()
+	{
+		sFolder = std::make_unique<test::TempFolder>();
+		const std::string known = sFolder->Write("known-player", "#!/bin/sh\n");
+		const std::string unknown = sFolder->Write("unknown-player", "#!/bin/sh\n");
+		chmod(known.c_str(), 0755);
+		chmod(unknown.c_str(), 0755);
+		const std::string folder = std::string(getenv("XDG_CONFIG_HOME")) + "/VinyloH";
+		std::filesystem::create_directories(folder);
+		std::ofstream(folder + "/players.table")
+			<< "player known\n\tsignature application/x-vnd.ClaesL-CLAmp\n\texecutable " << known
+			<< "\n\ttypes audio\nplayer unknown\n\tsignature application/x-vnd.claesl-clamp\n"
+			<< "\texecutable " << unknown << "\n\ttypes audio\n";
+	}
+
+	static void TearDownTestSuite() { sFolder.reset(); }
+
 	std::string Fill()
 	{
 		fMenu = std::make_unique<BMenu>("players");
@@ -39,7 +62,11 @@ protected:
 	}
 
 	std::unique_ptr<BMenu> fMenu;
+
+	static std::unique_ptr<test::TempFolder> sFolder;
 };
+
+std::unique_ptr<test::TempFolder> AskForPrefAppTest::sFolder;
 
 } // namespace
 
@@ -55,6 +82,20 @@ TEST_F(AskForPrefAppTest, NoneComesFirstAndIsMarked)
 	EXPECT_STREQ(none->Message()->GetString("aa_mime"), " -none-");
 	EXPECT_NE(dynamic_cast<BSeparatorItem*>(fMenu->ItemAt(1)), nullptr);
 	EXPECT_TRUE(fMenu->IsRadioMode());
+}
+
+
+TEST_F(AskForPrefAppTest, PlayerWhoseSignatureDiffersInCaseIsUnknown)
+{
+	const std::string output = Fill();
+	ASSERT_NE(fMenu->FindItem("known-player"), nullptr);
+	EXPECT_STREQ(fMenu->FindItem("known-player")->Message()->GetString("aa_mime"),
+		((*sFolder) / "known-player").c_str());
+	EXPECT_EQ(fMenu->FindItem("unknown-player"), nullptr);
+	EXPECT_NE(output.find("[DA_App_H] [30]: '" + ((*sFolder) / "known-player") + "' [OK]\n"),
+		std::string::npos);
+	EXPECT_NE(output.find(" [unknown] [30]: '" + ((*sFolder) / "unknown-player") + "' [Trouble]\n"),
+		std::string::npos);
 }
 
 

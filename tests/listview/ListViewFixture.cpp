@@ -97,10 +97,7 @@ ListViewFixture::ListViewFixture()
 ListViewFixture::~ListViewFixture()
 {
 	CloseView();
-	for (int32 index = 0; index < fTitles.CountItems(); index++)
-		delete static_cast<BPath*>(fTitles.ItemAt(index));
-	for (int32 index = 0; index < fAlbums.CountItems(); index++)
-		delete static_cast<BitmapPath*>(fAlbums.ItemAt(index));
+	EmptyLists();
 	MxView::MedListChecked = false;
 	MxView::SingleAlbum = false;
 	MxView::MedList = nullptr;
@@ -153,6 +150,18 @@ ListViewFixture::AddAlbum(const std::string& folder, rgb_color color)
 	BitmapPath* const album = static_cast<BitmapPath*>(fAlbums.LastItem());
 	album->fBitmap = new BBitmap(BRect(0, 0, 9, 9), B_RGB32);
 	fill(*album->fBitmap, color);
+}
+
+
+void
+ListViewFixture::EmptyLists()
+{
+	for (int32 index = 0; index < fTitles.CountItems(); index++)
+		delete static_cast<BPath*>(fTitles.ItemAt(index));
+	fTitles.MakeEmpty();
+	for (int32 index = 0; index < fAlbums.CountItems(); index++)
+		delete static_cast<BitmapPath*>(fAlbums.ItemAt(index));
+	fAlbums.MakeEmpty();
 }
 
 

@@ -62,6 +62,9 @@ protected:
 	void AddAlbum(const std::string& folder);
 	void AddAlbum(const std::string& folder, rgb_color color);
 
+	// No view may show them any more.
+	void EmptyLists();
+
 	// The view in a window, with these last coordinates.
 	TestedMxView& MakeView(float right = 1000, float bottom = 700);
 	// The view in a bitmap, drawn once.

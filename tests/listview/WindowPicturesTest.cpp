@@ -216,8 +216,7 @@ TEST_F(WindowPictures, EachTileSize)
 		Show(1000, 700, size);
 		Compare("tiles-" + std::to_string(size));
 		CloseView();
-		fTitles.MakeEmpty();
-		fAlbums.MakeEmpty();
+		EmptyLists();
 	}
 }
 

@@ -54,7 +54,7 @@ class Hardship(unittest.TestCase):
 			program = Program(session, os.path.join(session.root, "log"))
 			self.assertEqual(program.drop([path]), 0)
 			program.wait_for_text(" add to mflist")
-			self.assertEqual(program.close(), 0)
+			self.assertEqual(program.close(limit=60), 0)
 			with open(playlist, encoding="utf-8") as file:
 				self.assertEqual(file.read(), lines + path + "\n")
 

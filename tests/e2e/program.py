@@ -110,7 +110,7 @@ class Program:
 		self.session.key("Prior")
 		self.click_centered_tile()
 
-	def close(self):
+	def close(self, limit=15):
 		"""Closes the window through the window manager and returns how the program has ended."""
 		def is_over():
 			if self.process.poll() is None and self.has_focus():
@@ -121,5 +121,5 @@ class Program:
 				self.session.run(["xdotool", "windowactivate", self.window])
 			return self.process.poll() is not None
 		self.focus()
-		wait_for(is_over, "the end of the program")
+		wait_for(is_over, "the end of the program", limit)
 		return self.process.returncode

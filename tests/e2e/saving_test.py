@@ -42,8 +42,14 @@ class Saving(unittest.TestCase):
 
 	def close_and_read_alert(self, session, program, how):
 		"""Closes the window; the program waits for the answer to its alert, then ends."""
-		how()
-		alert = session.window("KORU_Alert")
+		def opened():
+			# A key that is pressed before the window has the focus is lost.
+			how()
+			try:
+				return session.window("KORU_Alert", limit=6)
+			except AssertionError:
+				return None
+		alert = wait_for(opened, "the alert", 30)
 		self.assertIsNone(program.process.poll())
 		self.assertEqual(program.count("_koru_media_list' OpenError!\n"), 1)
 		wait_for(lambda: session.run(["xdotool", "windowactivate", "--sync", alert]) == 0, "the alert")

@@ -34,9 +34,11 @@ class Wayland(unittest.TestCase):
 			socket = os.path.join(session.environment["XDG_RUNTIME_DIR"], "wayland-test")
 			wait_for(lambda: os.path.exists(socket), "the compositor")
 			log = os.path.join(session.root, "log")
-			# No way leads to the X server, which a program might fall back to.
+			# No way leads to the X server, which a program might fall back to. What Qt's plug-in leaks
+			# cannot be told apart, as it is unloaded before the sanitizer's report.
 			program = session.start("VinyloH", ["stdbuf", "-oL", os.environ["VINYLOH"]], log=log,
-				WAYLAND_DISPLAY="wayland-test", QT_QPA_PLATFORM="wayland", DISPLAY=":9973")
+				WAYLAND_DISPLAY="wayland-test", QT_QPA_PLATFORM="wayland", DISPLAY=":9973",
+				ASAN_OPTIONS="detect_leaks=0")
 
 			def text():
 				with open(log, encoding="utf-8", errors="surrogateescape") as file:
@@ -48,7 +50,7 @@ class Wayland(unittest.TestCase):
 			wait_for(lambda: session.playing_path(PREFIX) == titles[1], "the second title", 30)
 			self.command("MW_C")
 			wait_for(lambda: program.poll() is not None, "the end of the program", 30)
-			self.assertEqual(program.returncode, 0)
+			self.assertEqual(program.returncode, 0, text()[-4000:])
 			self.assertIn("\n-WYN end-\n", text())
 			self.assertNotIn("qt.qpa", text())
 

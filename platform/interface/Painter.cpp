@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "platform/interface/Dots.h"
 #include "platform/interface/FontData.h"
 #include "platform/interface/Pixels.h"
 #include "platform/interface/ViewData.h"
@@ -22,7 +23,8 @@ Painter::Painter(ViewData& view, const pattern& pattern)
 	if (fClip.isEmpty())
 		return;
 	fImage = view.tree->host->Image();
-	fClip &= fImage->rect();
+	fClip &= PixelsOf(*fImage);
+	fDots = DotsPerPixel(*fImage);
 	fOffset = view.DrawOffset();
 	fInk.high = view.state.high;
 	fInk.low = view.state.low;
@@ -30,7 +32,7 @@ Painter::Painter(ViewData& view, const pattern& pattern)
 	fInk.sourceAlpha = view.state.sourceAlpha;
 	fInk.alphaFunction = view.state.alphaFunction;
 	fInk.pattern = pattern;
-	fInk.patternOrigin = FloorPixel(view.HostOffset());
+	fInk.patternOrigin = FloorPixel(view.HostOffset()) * fDots;
 }
 
 
@@ -53,11 +55,11 @@ void
 Painter::_ForClip(const QRect& bounds, const std::function<void(const QRect& part)>& paint)
 {
 	for (const QRect& rect : fClip) {
-		const QRect part = rect & bounds;
+		const QRect part = ToDots(rect, fDots) & bounds;
 		if (part.isEmpty())
 			continue;
 		paint(part);
-		fTouched |= part;
+		fTouched |= ToPixels(part, fDots);
 	}
 }
 
@@ -67,7 +69,7 @@ Painter::FillPixels(const QRect& pixels)
 {
 	if (pixels.isEmpty())
 		return;
-	_ForClip(pixels, [this](const QRect& part) {
+	_ForClip(ToDots(pixels, fDots), [this](const QRect& part) {
 		for (int y = part.top(); y <= part.bottom(); y++)
 			PaintSpan(_Row(part.left(), y), nullptr, part.width(), part.left(), y, fInk);
 	});
@@ -117,7 +119,8 @@ void
 Painter::_SmoothByMask(const QRegion& clip, const Paint& paint)
 {
 	const QRect bounds = clip.boundingRect();
-	QImage mask(bounds.size(), QImage::Format_Alpha8);
+	QImage mask(bounds.size() * fDots, QImage::Format_Alpha8);
+	mask.setDevicePixelRatio(fDots);
 	mask.fill(0);
 	{
 		QPainter painter(&mask);
@@ -125,10 +128,11 @@ Painter::_SmoothByMask(const QRegion& clip, const Paint& paint)
 		painter.translate(-bounds.topLeft());
 		paint(painter, Qt::black);
 	}
-	for (const QRect& part : clip) {
+	const QPoint origin = bounds.topLeft() * fDots;
+	for (const QRect& pixels : clip) {
+		const QRect part = ToDots(pixels, fDots);
 		for (int y = part.top(); y <= part.bottom(); y++) {
-			const uint8* coverage
-				= mask.constScanLine(y - bounds.top()) + part.left() - bounds.left();
+			const uint8* coverage = mask.constScanLine(y - origin.y()) + part.left() - origin.x();
 			PaintSpan(_Row(part.left(), y), coverage, part.width(), part.left(), y, fInk);
 		}
 	}

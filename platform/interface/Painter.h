@@ -25,7 +25,7 @@ struct ViewData;
 
 /*!	One drawing call of a view: knows where it may paint and with what, and reports what it painted.
 
-	Coordinates are the host's.
+	Coordinates are the host's, in pixels; what is called dots is what the host's image is made of.
 */
 class Painter {
 public:
@@ -60,7 +60,7 @@ private:
 
 	void _Smooth(const QRect& bounds, const Paint& paint);
 	void _SmoothByMask(const QRegion& clip, const Paint& paint);
-	// Calls with every rectangle of the clipping region that is in the bounds.
+	// Calls with every rectangle of the clipping region that is in the bounds. Both are in dots.
 	void _ForClip(const QRect& bounds, const std::function<void(const QRect& part)>& paint);
 	void _DrawNearest(BitmapData& bitmap, const QRect& source, const QRect& target);
 	void _DrawSmooth(BitmapData& bitmap, const QRect& source, const QRect& target);
@@ -69,6 +69,7 @@ private:
 
 	ViewData& fView;
 	QImage* fImage = nullptr;
+	int fDots = 1;
 	QRegion fClip;
 	BPoint fOffset;
 	Ink fInk;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/interface/BitmapData.h"
+#include "platform/interface/Dots.h"
 #include "platform/interface/Painter.h"
 #include "platform/interface/Pixels.h"
 #include "platform/interface/ViewData.h"
@@ -31,9 +32,10 @@ Painter::DrawPicture(BitmapData& bitmap, BRect source, BRect destination, uint32
 {
 	if (bitmap.status != B_OK || !source.IsValid() || !destination.IsValid())
 		return;
-	const QRect target = target_pixels(destination);
-	if (!fClip.intersects(target))
+	const QRect targetPixels = target_pixels(destination);
+	if (!fClip.intersects(targetPixels))
 		return;
+	const QRect target = ToDots(targetPixels, fDots);
 	const QRect pixels(FloorPixel(source.left), FloorPixel(source.top), source.IntegerWidth() + 1,
 		source.IntegerHeight() + 1);
 	const bool isLazy = bitmap.IsLazy();

@@ -4,6 +4,7 @@
 
 #include <Region.h>
 
+#include "platform/interface/Dots.h"
 #include "platform/interface/Painter.h"
 #include "platform/interface/Pixels.h"
 #include "platform/interface/RegionData.h"
@@ -145,7 +146,7 @@ UpdateViews(ViewHost& host, BView& root, const QRegion& pixels)
 	QImage* image = host.Image();
 	if (tree == nullptr || image == nullptr)
 		return;
-	const QRegion clipped = pixels & image->rect();
+	const QRegion clipped = pixels & PixelsOf(*image);
 	if (clipped.isEmpty())
 		return;
 

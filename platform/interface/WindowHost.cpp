@@ -12,8 +12,10 @@
 #include <Messenger.h>
 #include <View.h>
 
+#include "platform/interface/Dots.h"
 #include "platform/interface/ViewData.h"
 #include "platform/interface/ViewPrivate.h"
+#include "platform/screen/DisplayThread.h"
 #include "platform/screen/NativeWindow.h"
 
 
@@ -59,11 +61,14 @@ WindowHost::Image()
 {
 	if (_IsHidden())
 		return nullptr;
-	const QSize size(static_cast<int>(fFrame.Width()) + 1, static_cast<int>(fFrame.Height()) + 1);
+	const int dots = DisplayThread::DotsPerPixel();
+	const QSize size
+		= QSize(static_cast<int>(fFrame.Width()) + 1, static_cast<int>(fFrame.Height()) + 1) * dots;
 	if (fImage.size() != size && size.width() > 0 && size.height() > 0) {
 		QImage image(size, QImage::Format_RGB32);
 		if (image.isNull())
 			return nullptr;
+		image.setDevicePixelRatio(dots);
 		image.fill(Qt::white);
 		if (!fImage.isNull())
 			QPainter(&image).drawImage(0, 0, fImage);
@@ -147,7 +152,7 @@ WindowHost::_PaintPending()
 		return;
 	if (!fPending.isEmpty() && Image() != nullptr) {
 		fIsPainting = true;
-		const QRegion region = std::exchange(fPending, QRegion()) & fImage.rect();
+		const QRegion region = std::exchange(fPending, QRegion()) & PixelsOf(fImage);
 		UpdateViews(*this, *fRoot, region);
 		fIsPainting = false;
 	}

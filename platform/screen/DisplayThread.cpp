@@ -2,9 +2,12 @@
 #include "platform/screen/DisplayThread.h"
 
 #include <chrono>
+#include <algorithm>
+#include <atomic>
 #include <condition_variable>
 #include <deque>
 #include <errno.h>
+#include <math.h>
 #include <memory>
 #include <mutex>
 #include <stdint.h>
@@ -35,6 +38,10 @@ namespace hosted {
 
 namespace {
 
+// Finer screens show what is painted for this many.
+constexpr int kMostDotsPerPixel = 4;
+
+
 struct Job {
 	std::function<void()> run;
 	// Set by the display thread when the job is done or dropped; null for jobs nobody waits for.
@@ -51,6 +58,7 @@ struct State {
 	bool opened = false;
 	bool failed = false;
 	bool stopping = false;
+	std::atomic<int> dotsPerPixel = 1;
 };
 
 // How long a program may take to end when it has lost its display.
@@ -213,6 +221,8 @@ display_main(State& shared)
 		QApplication application(sArgumentCount, sArguments);
 		if (!wasSet)
 			unsetenv("QT_QPA_PLATFORM");
+		shared.dotsPerPixel = std::clamp(static_cast<int>(ceil(application.devicePixelRatio())), 1,
+			kMostDotsPerPixel);
 		application.setQuitOnLastWindowClosed(false);
 		// Desktops find the icon of a window by it.
 		QGuiApplication::setDesktopFileName(QFile::decodeName(program_invocation_short_name));
@@ -285,6 +295,13 @@ DisplayThread::IsRunning()
 	State& shared = state();
 	std::lock_guard<std::mutex> lock(shared.mutex);
 	return shared.running;
+}
+
+
+int
+DisplayThread::DotsPerPixel()
+{
+	return state().dotsPerPixel;
 }
 
 

@@ -24,6 +24,9 @@ public:
 
 	static bool IsRunning();
 	static bool IsCurrent();
+	// How fine the finest screen is that was there at the start: dots along a side of a pixel,
+	// whole.
+	static int DotsPerPixel();
 
 	// Queues a job, first in first out, and returns at once. Without a running thread the job is
 	// dropped.

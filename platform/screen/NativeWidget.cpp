@@ -15,6 +15,7 @@
 #include <OS.h>
 #include <Window.h>
 
+#include "platform/interface/Dots.h"
 #include "platform/interface/InputFields.h"
 #include "platform/screen/Workspaces.h"
 
@@ -312,10 +313,13 @@ NativeWidget::paintEvent(QPaintEvent* event)
 {
 	QPainter painter(this);
 	fWindow->Paint([this, &painter, event](const QImage& picture) {
-		for (const QRect& rect : event->region() & picture.rect())
-			painter.drawImage(rect.topLeft(), picture, rect);
+		const QRect pixels = PixelsOf(picture);
+		// On a screen that is coarser than the finest one.
+		painter.setRenderHint(QPainter::SmoothPixmapTransform);
+		for (const QRect& rect : event->region() & pixels)
+			painter.drawImage(rect, picture, ToDots(rect, DotsPerPixel(picture)));
 		// Where the window has grown, its thread has not painted yet.
-		for (const QRect& rect : (event->region() & this->rect()) - QRegion(picture.rect()))
+		for (const QRect& rect : (event->region() & this->rect()) - QRegion(pixels))
 			painter.fillRect(rect, Qt::white);
 	});
 }

@@ -6,6 +6,7 @@
 
 #include <QAccessible>
 
+#include "platform/interface/Dots.h"
 #include "platform/screen/DisplayThread.h"
 #include "platform/screen/NativeWidget.h"
 
@@ -19,7 +20,7 @@ constexpr size_t kMostRectangles = 32;
 
 
 void
-copy_pixels(const QImage& from, QImage& to, const QRect& rect)
+copy_dots(const QImage& from, QImage& to, const QRect& rect)
 {
 	const size_t bytes = static_cast<size_t>(rect.width()) * 4;
 	for (int y = rect.top(); y <= rect.bottom(); y++) {
@@ -116,14 +117,14 @@ NativeWindow::Show(const QImage& picture, const QRegion& region)
 		std::lock_guard<std::mutex> lock(fMutex);
 		if (fPicture.size() != picture.size()) {
 			fPicture = picture.copy();
-			fNewPixels.assign(1, fPicture.rect());
+			fNewPixels.assign(1, PixelsOf(fPicture));
 		} else {
 			std::vector<QRect> rects(region.begin(), region.end());
 			merge_many(rects);
 			for (QRect& rect : rects) {
-				rect &= fPicture.rect();
+				rect &= PixelsOf(fPicture);
 				if (!rect.isEmpty())
-					copy_pixels(picture, fPicture, rect);
+					copy_dots(picture, fPicture, ToDots(rect, DotsPerPixel(picture)));
 			}
 			fNewPixels.insert(fNewPixels.end(), rects.begin(), rects.end());
 			merge_many(fNewPixels);

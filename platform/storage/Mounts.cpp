@@ -96,6 +96,10 @@ std::vector<Mount>
 ListMounts()
 {
 	std::vector<Mount> mounts;
+	// Where another folder was made the root, the system's list leaves out what it is on.
+	struct stat status;
+	if (stat("/", &status) == 0)
+		mounts.push_back({status.st_dev, "/"});
 	std::ifstream file("/proc/self/mountinfo");
 	std::string line;
 	while (std::getline(file, line)) {

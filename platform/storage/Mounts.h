@@ -15,7 +15,8 @@ struct Mount {
 	std::string path;
 };
 
-// What is mounted that holds files: disks, shares and file systems in memory, each device once.
+// What is mounted that holds files: disks, shares and file systems in memory, each device once,
+// what the root is on first.
 std::vector<Mount> ListMounts();
 
 } // namespace hosted

@@ -4,7 +4,6 @@
 #include <Directory.h>
 #include <string.h>
 #include <string>
-#include <sys/stat.h>
 #include <sys/statvfs.h>
 
 #include "platform/storage/Mounts.h"
@@ -17,9 +16,6 @@ namespace {
 std::string
 root_of(dev_t device)
 {
-	struct stat status;
-	if (stat("/", &status) == 0 && status.st_dev == device)
-		return "/";
 	for (const hosted::Mount& mount : hosted::ListMounts()) {
 		if (mount.device == device)
 			return mount.path;

@@ -10,9 +10,12 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <sched.h>
 #include <set>
 #include <stdlib.h>
 #include <string>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "platform/storage/Predicate.h"
 #include "tests/support/TempFolder.h"
@@ -21,6 +24,10 @@
 namespace {
 
 static_assert(B_EQ == 1 && B_NE == 6 && B_CONTAINS == 7 && B_AND == 0x101 && B_OR == 0x102);
+
+
+// How a process ends that asked for another root in vain.
+constexpr int kMayNotChangeRoot = 77;
 
 
 // A file that has a name, a track and a rating.
@@ -283,6 +290,30 @@ TEST(BVolume, UnknownDevice)
 	char name[B_FILE_NAME_LENGTH];
 	EXPECT_EQ(BVolume().GetName(name), B_NO_INIT);
 	EXPECT_FALSE(volume.KnowsAttr());
+}
+
+
+TEST(BVolumeRoster, GivesTheVolumeOfARootThatWasChanged)
+{
+	const test::TempFolder folder;
+	const pid_t child = fork();
+	if (child == 0) {
+		if (chroot(folder.Path().c_str()) != 0
+			&& (unshare(CLONE_NEWUSER) != 0 || chroot(folder.Path().c_str()) != 0)) {
+			_exit(kMayNotChangeRoot);
+		}
+		BVolumeRoster roster;
+		BVolume boot;
+		BVolume volume;
+		const bool same = roster.GetBootVolume(&boot) == B_OK
+			&& roster.GetNextVolume(&volume) == B_OK && volume.Device() == boot.Device();
+		_exit(same ? 0 : 1);
+	}
+	int status = 0;
+	ASSERT_EQ(waitpid(child, &status, 0), child);
+	if (WIFEXITED(status) && WEXITSTATUS(status) == kMayNotChangeRoot)
+		GTEST_SKIP() << "This user may not change the root here.";
+	EXPECT_EQ(status, 0);
 }
 
 

@@ -13,6 +13,9 @@ install(CODE "
 	file(CREATE_LINK ${folder_from_bin}/vinyloh-remote \"\${bin}/vinyloh-remote\" SYMBOLIC)")
 install(FILES docs/vinyloh-remote.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES packaging/linux/VinyloH.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES packaging/linux/VinyloH.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES resources/icon/VinyloH.svg
 	DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-install(FILES LICENSE README.md docs/user-guide.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+set(doc_folder ${CMAKE_INSTALL_DATADIR}/doc/vinyloh)
+install(FILES README.md docs/user-guide.md DESTINATION ${doc_folder})
+install(FILES LICENSE DESTINATION ${doc_folder} RENAME copyright)

@@ -1,13 +1,17 @@
-"""The installed program: where everything lies, and that it starts from there."""
+"""The installed program: where everything lies, that it starts from there, and its package."""
 
 import os
 import subprocess
 import sys
+import tempfile
 import unittest
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 from program import Program  # noqa: E402
 from session import Session, as_ordinary_user  # noqa: E402
+
+PACKAGES = os.path.join(os.path.dirname(os.path.abspath(__file__)),
+	"../../packaging/linux/packages.txt")
 
 
 class Install(unittest.TestCase):
@@ -32,6 +36,29 @@ class Install(unittest.TestCase):
 			self.assertEqual(program.close(), 0)
 			for name in os.listdir(languages):
 				self.assertIn(f": '{os.path.join(languages, name)}'  ", program.text())
+
+	def test_the_package_holds_the_program_and_names_all_that_it_needs(self):
+		build = os.path.dirname(os.environ["VINYLOH"])
+		with tempfile.TemporaryDirectory() as folder:
+			subprocess.run(["cpack", "--config", os.path.join(build, "CPackConfig.cmake"),
+				"-B", folder], check=True, stdout=subprocess.DEVNULL)
+			[package] = [name for name in os.listdir(folder) if name.endswith(".deb")]
+			package = os.path.join(folder, package)
+			depends = subprocess.check_output(["dpkg-deb", "-f", package, "Depends"], text=True)
+			with open(PACKAGES, encoding="ascii") as file:
+				rows = [line.split() for line in file if line.strip() and line[0] != "#"]
+			self.assertEqual(depends.strip().split(", "),
+				[name for name, kind in rows if kind == "run"])
+
+			subprocess.run(["dpkg-deb", "-x", package, folder], check=True)
+			share = os.path.join(folder, "usr/share")
+			self.assertTrue(os.access(os.path.join(folder, "usr/bin/VinyloH"), os.X_OK))
+			self.assertTrue(os.path.isfile(os.path.join(share, "doc/vinyloh/copyright")))
+			# Without a domain there is no name that a domain's owner could vouch for.
+			subprocess.run(["appstreamcli", "validate", "--no-net",
+				"--override=cid-desktopapp-is-not-rdns=info",
+				os.path.join(share, "metainfo/VinyloH.metainfo.xml")],
+				check=True, stdout=subprocess.DEVNULL)
 
 
 if __name__ == "__main__":

@@ -76,6 +76,12 @@ take_pointer_message(BMessageQueue& queue)
 BHandler*
 WindowHost::_TargetFor(BMessage& message, BHandler* target)
 {
+	// These are the window's own, whichever view they were sent to.
+	if (message.what == B_QUIT_REQUESTED || message.what == B_PULSE)
+		return fWindow;
+	// Other programs cannot speak for the desktop.
+	if (message.IsSourceRemote())
+		message.RemoveName(kInputKind);
 	int32 kind;
 	if (message.FindInt32(kInputKind, &kind) != B_OK) {
 		// The handler that it was sent to is gone.

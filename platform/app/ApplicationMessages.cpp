@@ -4,7 +4,6 @@
 #include <Application.h>
 
 #include <memory>
-#include <string.h>
 #include <vector>
 
 #include <AppDefs.h>
@@ -13,6 +12,7 @@
 #include <PropertyInfo.h>
 #include <Roster.h>
 
+#include "platform/app/Delivery.h"
 #include "platform/app/LooperCore.h"
 #include "platform/app/Registry.h"
 #include "platform/app/Scripting.h"
@@ -40,15 +40,14 @@ property_info sApplicationProperties[]
 enum { kOneWindow, kOneLooper, kName, kWindowCount, kWindowList, kLooperCount, kLooperList };
 
 
-bool
-has_name(LooperCore& core, const char* name)
+// The looper itself, and not the handler that it prefers.
+BMessenger
+messenger_of(const LooperCore& core)
 {
-	if (core.Lock(B_INFINITE_TIMEOUT) != B_OK)
-		return false;
-	const char* ownName = core.looper->Name();
-	const bool matches = ownName != nullptr && strcmp(ownName, name) == 0;
-	core.Unlock();
-	return matches;
+	hosted::Address address = hosted::ApplicationAddress();
+	address.port = core.port;
+	address.token = core.token;
+	return hosted::MessengerAccess::Make(address);
 }
 
 
@@ -58,7 +57,7 @@ looper_for(const Loopers& loopers, const BMessage& specifier)
 	if (specifier.what == B_NAME_SPECIFIER) {
 		const char* name = specifier.GetString("name", "");
 		for (const std::shared_ptr<LooperCore>& core : loopers) {
-			if (has_name(*core, name))
+			if (core->IsNamed(name))
 				return core;
 		}
 		return nullptr;
@@ -76,7 +75,7 @@ void
 add_loopers(BMessage& reply, const Loopers& loopers)
 {
 	for (const std::shared_ptr<LooperCore>& core : loopers)
-		reply.AddMessenger("result", BMessenger(nullptr, core->looper));
+		reply.AddMessenger("result", messenger_of(*core));
 }
 
 
@@ -133,7 +132,7 @@ BApplication::ResolveSpecifier(BMessage* message, int32 index, BMessage* specifi
 	if (core->looper == this)
 		return this;
 	// The rest is the looper's own business, in its own thread.
-	BMessenger(nullptr, core->looper).SendMessage(message, static_cast<BHandler*>(nullptr), 0);
+	messenger_of(*core).SendMessage(message, static_cast<BHandler*>(nullptr), 0);
 	return nullptr;
 }
 

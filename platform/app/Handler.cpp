@@ -108,6 +108,11 @@ BHandler::SetName(const char* name)
 	char* copy = name != nullptr ? strdup(name) : nullptr;
 	free(fName);
 	fName = copy;
+	if (fLooper != this)
+		return;
+	const std::shared_ptr<hosted::LooperCore> core = Registry::Get().LooperFor(fLooper);
+	if (core != nullptr)
+		core->SetName(name);
 }
 
 

@@ -45,6 +45,7 @@ BLooper::_Init(int32 priority, int32 port, int32 capacity)
 {
 	fPriority = priority;
 	fCore = Registry::Get().AddLooper(this, port, fToken, capacity > 0 ? capacity : 1);
+	fCore->SetName(Name());
 	fHandlers.push_back(this);
 	fLooper = this;
 	Registry::Get().SetLooper(fToken, this);

@@ -80,6 +80,24 @@ LooperCore::IsLockedByCaller()
 
 
 void
+LooperCore::SetName(const char* newName)
+{
+	std::lock_guard<std::mutex> lock(mutex);
+	name.reset();
+	if (newName != nullptr)
+		name = newName;
+}
+
+
+bool
+LooperCore::IsNamed(const char* wanted)
+{
+	std::lock_guard<std::mutex> lock(mutex);
+	return name == wanted;
+}
+
+
+void
 LooperCore::BeginDying()
 {
 	std::lock_guard<std::mutex> lock(mutex);

@@ -5,6 +5,8 @@
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
+#include <optional>
+#include <string>
 
 #include <MessageQueue.h>
 #include <OS.h>
@@ -30,6 +32,10 @@ struct LooperCore {
 	// Gives up all of the caller's locks.
 	void UnlockFully();
 	bool IsLockedByCaller();
+
+	// The looper's name, for those who look for it by name without its lock. May be null.
+	void SetName(const char* newName);
+	bool IsNamed(const char* wanted);
 
 	// Only the holder gets the lock from now on; everybody who waits for it gives up.
 	void BeginDying();
@@ -64,6 +70,7 @@ struct LooperCore {
 	bool dead = false;
 	bool hasThread = false;
 	bool ended = false;
+	std::optional<std::string> name;
 };
 
 } // namespace hosted

@@ -395,6 +395,70 @@ TEST(ApplicationScripting, WindowsLoopersAndName)
 }
 
 
+TEST(ApplicationScripting, WindowsAreMeantNotTheirPreferredHandlers)
+{
+	Record record;
+	TestApplication application(record);
+	WindowLooper* window = new WindowLooper;
+	BHandler* preferred = new BHandler("preferred");
+	window->AddHandler(preferred);
+	window->SetPreferredHandler(preferred);
+	const BMessenger windowTarget(window);
+	window->Run();
+	std::thread other([&windowTarget]() {
+		BMessage reply;
+		for (const bool byName : {false, true}) {
+			BMessage question(B_GET_PROPERTY);
+			question.AddSpecifier("InternalName");
+			if (byName)
+				question.AddSpecifier("Window", "window");
+			else
+				question.AddSpecifier("Window", int32(0));
+			be_app_messenger.SendMessage(&question, &reply);
+			EXPECT_STREQ(reply.GetString("result"), "window");
+		}
+		for (const char* property : {"Windows", "Loopers"}) {
+			BMessage question(B_GET_PROPERTY);
+			question.AddSpecifier(property);
+			be_app_messenger.SendMessage(&question, &reply);
+			const int32 last = strcmp(property, "Loopers") == 0 ? 1 : 0;
+			BMessenger found;
+			EXPECT_EQ(reply.FindMessenger("result", last, &found), B_OK) << property;
+			EXPECT_TRUE(found == windowTarget) << property;
+		}
+		be_app_messenger.SendMessage(B_QUIT_REQUESTED);
+	});
+	application.Run();
+	other.join();
+	delete preferred;
+}
+
+
+TEST(ApplicationScripting, NamesAreLookedForWithoutTheWindowsLocks)
+{
+	Record record;
+	TestApplication application(record);
+	WindowLooper* busy = new WindowLooper;
+	busy->SetName("busy");
+	busy->Run();
+	WindowLooper* asked = new WindowLooper;
+	asked->Run();
+	std::thread other([busy]() {
+		BMessage question(B_GET_PROPERTY);
+		question.AddSpecifier("InternalName");
+		question.AddSpecifier("Window", "window");
+		BMessage reply;
+		ASSERT_TRUE(busy->Lock());
+		EXPECT_EQ(be_app_messenger.SendMessage(&question, &reply, 5000000, 5000000), B_OK);
+		EXPECT_STREQ(reply.GetString("result"), "window");
+		busy->Unlock();
+		be_app_messenger.SendMessage(B_QUIT_REQUESTED);
+	});
+	application.Run();
+	other.join();
+}
+
+
 TEST(ApplicationDeathTest, OnlyOneAndOnlyWithASignature)
 {
 	testing::FLAGS_gtest_death_test_style = "threadsafe";

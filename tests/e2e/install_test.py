@@ -10,25 +10,22 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 from program import Program  # noqa: E402
 from session import Session, as_ordinary_user  # noqa: E402
 
-PACKAGES = os.path.join(os.path.dirname(os.path.abspath(__file__)),
+LIST_OF_PACKAGES = os.path.join(os.path.dirname(os.path.abspath(__file__)),
 	"../../packaging/linux/packages.txt")
 
 
 class Install(unittest.TestCase):
 	def test_the_installed_program_finds_its_languages_and_its_icon(self):
+		prefix = os.environ["INSTALLED"]
+		entry = os.path.join(prefix, "share/applications/VinyloH.desktop")
+		subprocess.run(["desktop-file-validate", entry], check=True)
+		self.assertTrue(os.path.isfile(
+			os.path.join(prefix, "share/icons/hicolor/scalable/apps/VinyloH.svg")))
+		command = os.path.join(prefix, "bin/VinyloH")
+		languages = os.path.join(os.path.dirname(os.path.realpath(command)),
+			"Language/Dictionaries")
+		self.assertIn("KORU-Haiku.deDE", os.listdir(languages))
 		with Session() as session:
-			prefix = os.path.join(session.root, "usr")
-			subprocess.run(["cmake", "--install", os.path.dirname(os.environ["VINYLOH"]),
-				"--prefix", prefix], check=True, stdout=subprocess.DEVNULL)
-			entry = os.path.join(prefix, "share/applications/VinyloH.desktop")
-			subprocess.run(["desktop-file-validate", entry], check=True)
-			self.assertTrue(os.path.isfile(
-				os.path.join(prefix, "share/icons/hicolor/scalable/apps/VinyloH.svg")))
-
-			command = os.path.join(prefix, "bin/VinyloH")
-			languages = os.path.join(os.path.dirname(os.path.realpath(command)),
-				"Language/Dictionaries")
-			self.assertIn("KORU-Haiku.deDE", os.listdir(languages))
 			program = Program(session, os.path.join(session.root, "log"), command)
 			# The desktop entry is found by the window's class.
 			self.assertIn('"VinyloH"',
@@ -38,21 +35,17 @@ class Install(unittest.TestCase):
 				self.assertIn(f": '{os.path.join(languages, name)}'  ", program.text())
 
 	def test_the_package_holds_the_program_and_names_all_that_it_needs(self):
-		build = os.path.dirname(os.environ["VINYLOH"])
-		with tempfile.TemporaryDirectory() as folder:
-			subprocess.run(["cpack", "--config", os.path.join(build, "CPackConfig.cmake"),
-				"-B", folder], check=True, stdout=subprocess.DEVNULL)
-			[package] = [name for name in os.listdir(folder) if name.endswith(".deb")]
-			package = os.path.join(folder, package)
-			depends = subprocess.check_output(["dpkg-deb", "-f", package, "Depends"], text=True)
-			with open(PACKAGES, encoding="ascii") as file:
-				rows = [line.split() for line in file if line.strip() and line[0] != "#"]
-			self.assertEqual(depends.strip().split(", "),
-				[name for name, kind in rows if kind == "run"])
-
-			subprocess.run(["dpkg-deb", "-x", package, folder], check=True)
-			share = os.path.join(folder, "usr/share")
-			self.assertTrue(os.access(os.path.join(folder, "usr/bin/VinyloH"), os.X_OK))
+		folder = os.environ["PACKAGES"]
+		package = max((os.path.join(folder, name) for name in os.listdir(folder)
+			if name.endswith(".deb")), key=os.path.getmtime)
+		depends = subprocess.check_output(["dpkg-deb", "-f", package, "Depends"], text=True)
+		with open(LIST_OF_PACKAGES, encoding="ascii") as file:
+			rows = [line.split() for line in file if line.strip() and line[0] != "#"]
+		self.assertEqual(depends.strip().split(", "), [name for name, kind in rows if kind == "run"])
+		with tempfile.TemporaryDirectory() as root:
+			subprocess.run(["dpkg-deb", "-x", package, root], check=True)
+			share = os.path.join(root, "usr/share")
+			self.assertTrue(os.access(os.path.join(root, "usr/bin/VinyloH"), os.X_OK))
 			self.assertTrue(os.path.isfile(os.path.join(share, "doc/vinyloh/copyright")))
 			# Without a domain there is no name that a domain's owner could vouch for.
 			subprocess.run(["appstreamcli", "validate", "--no-net",

@@ -74,7 +74,8 @@ class Line(unittest.TestCase):
 		self.assertIn(" last_top_media   1", program.text())
 		program.wait_for_text(" stop.. ", 2)
 		self.assertNotIn("[open][", program.text())
-		self.assertEqual(session.playing_path("org.mpris.MediaPlayer2.vlc"), before)
+		# On a slow machine the title is over by now.
+		self.assertIn(session.playing_path("org.mpris.MediaPlayer2.vlc"), [before, None])
 		self.assertEqual(program.close(), 0)
 		with open(os.path.join(session.home, "_koru_media_list"), encoding="utf-8") as file:
 			self.assertEqual(file.read().split("\n")[:-1], titles)

@@ -135,8 +135,19 @@ class Session:
 			raise
 		return self
 
-	def __exit__(self, *_):
+	def __exit__(self, kind, *_):
+		if kind is not None:
+			self.print_logs()
 		self.end()
+
+	def print_logs(self, lines=25):
+		"""What the programs of a test that failed have printed last."""
+		for name in sorted(os.listdir(self.root)):
+			path = os.path.join(self.root, name)
+			if os.path.isfile(path):
+				with open(path, encoding="utf-8", errors="replace") as file:
+					print(f"-- the end of {name}", *file.read().split("\n")[-lines:], sep="\n",
+						file=sys.stderr)
 
 	def end(self):
 		for name, process in reversed(self.processes):

@@ -296,3 +296,27 @@ ListViewFixture::Count(BRect area, rgb_color color) const
 	}
 	return count;
 }
+
+
+int
+ListViewFixture::CountDifferent(BRect area, const std::function<void(BView&)>& draw) const
+{
+	BBitmap expected(fBitmap->Bounds(), B_RGB32, true);
+	expected.Lock();
+	BView* const view = new BView(expected.Bounds(), "expected", B_FOLLOW_NONE, B_WILL_DRAW);
+	expected.AddChild(view);
+	fill(expected, kUntouched);
+	draw(*view);
+	view->Sync();
+	int count = 0;
+	for (int y = static_cast<int>(area.top); y <= area.bottom; y++) {
+		const int offset = y * fBitmap->BytesPerRow();
+		for (int x = static_cast<int>(area.left); x <= area.right; x++) {
+			const uint8* const one = static_cast<uint8*>(fBitmap->Bits()) + offset + x * 4;
+			const uint8* const other = static_cast<uint8*>(expected.Bits()) + offset + x * 4;
+			count += memcmp(one, other, 3) != 0 ? 1 : 0;
+		}
+	}
+	expected.Unlock();
+	return count;
+}

@@ -2,6 +2,7 @@
 #ifndef LIST_VIEW_FIXTURE_H
 #define LIST_VIEW_FIXTURE_H
 
+#include <functional>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -86,6 +87,8 @@ protected:
 	void Redraw();
 	rgb_color At(float x, float y) const;
 	int Count(BRect area, rgb_color color) const;
+	// How many pixels of the area differ from what that drawing leaves on an untouched ground.
+	int CountDifferent(BRect area, const std::function<void(BView&)>& draw) const;
 
 	static bigtime_t sNow;
 

@@ -154,6 +154,11 @@ TEST_F(MEViewDraw, TileAboveTheViewDrawsNothing)
 	fTile->MoveTo(0, -kHeight - 1);
 	Draw();
 	EXPECT_EQ(At(200, 5), before);
+
+	// Its last row is still to be seen.
+	fTile->MoveTo(0, -kHeight);
+	Draw();
+	EXPECT_EQ(At(200, 0), (rgb_color{20, 20, 20, 255}));
 }
 
 

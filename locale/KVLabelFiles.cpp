@@ -177,8 +177,6 @@ write_untranslated(FILE* file, const BList& texts, const char* const* source)
 		if (strcmp(text, source[index]) == 0)
 			fprintf(file, "\"%s\"\t\t\"%s\"\n", text, text);
 	}
-	// The texts are not counted.
-	printf(" - %ld not translated - \n", 0L);
 }
 
 
@@ -217,6 +215,8 @@ KVLabel::ExpMissingStr()
 			write_all(file, mirrorLabel);
 		else
 			write_untranslated(file, mirrorLabel, quelllist);
+		// The texts are not counted.
+		printf(" - %ld not translated - \n", 0L);
 	}
 	fclose(file);
 }

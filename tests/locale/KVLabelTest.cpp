@@ -6,6 +6,8 @@
 
 #include <FindDirectory.h>
 #include <InterfaceDefs.h>
+#include <Node.h>
+#include <TypeConstants.h>
 #include <gtest/gtest.h>
 
 #include "locale/Labels.h"
@@ -44,8 +46,36 @@ protected:
 		fCatalogue->LoadLangFile(fFolder.Write(name, contents).c_str());
 	}
 
+	// Writes a report in that language's name; what that prints is kept.
+	std::string Report(const char* code)
+	{
+		fCatalogue->altLangFile.SetTo("/tmp/x.deDE");
+		fCatalogue->lastLanguage = code;
+		fOutput = test::OutputOf([this] { fCatalogue->ExpMissingStr(); });
+		BPath home;
+		find_directory(B_USER_DIRECTORY, &home);
+		return test::ReadFile(std::string(home.Path()) + "/KORU-Haiku_" + code + "_Missing.txt");
+	}
+
+	static std::string ReportBegin(const std::string& kind)
+	{
+		return "# - - - missing in: \n# - - - '/tmp/x.deDE'\n# - - - " + kind + " Labels: \n";
+	}
+
+	// The code that the language memory holds for this catalogue's name.
+	static std::string StoredUnderTheName()
+	{
+		BPath path;
+		find_directory(B_USER_SETTINGS_DIRECTORY, &path);
+		path.Append("_LP_x-vnd.KV/kv_simpel_locale");
+		char code[6] = "";
+		BNode(path.Path()).ReadAttr("KORU-Haiku", B_STRING_TYPE, 0, code, 5);
+		return code;
+	}
+
 	test::TempFolder fFolder;
 	std::unique_ptr<KVLabel> fCatalogue;
+	std::string fOutput;
 };
 
 } // namespace
@@ -72,6 +102,22 @@ TEST(KVLabel, BeforeMirroringThereIsNoText)
 	EXPECT_EQ(catalogue.Setting4App, "Other");
 	EXPECT_EQ(catalogue.fLanguageCode, 0x64654445);
 	EXPECT_EQ(catalogue.quelllist, nullptr);
+}
+
+
+TEST(KVLabel, ConstructionReadsTheStoredLanguageAndPrintsTheState)
+{
+	AskStrSetting("Other", "nlNL", true);
+	std::unique_ptr<KVLabel> catalogue;
+	const std::string output
+		= test::OutputOf([&catalogue] { catalogue = std::make_unique<KVLabel>("Other"); });
+	EXPECT_EQ(catalogue->lastLanguage, "nlNL");
+	EXPECT_STREQ(catalogue->altLangFile.Leaf(), "notset");
+	EXPECT_EQ(output,
+		std::string("\n- - - - -\nlastLanguage: 'nlNL'\n Setting4App: 'Other'\n altLangFile: '")
+			+ catalogue->altLangFile.Path()
+			+ "'\n mirrorLabel:    0 Items \t(replaced:0)\n quelllist= (nil) \n- - - - -\n"
+			  "\nBUILD-KVLabel-DONE\n");
 }
 
 
@@ -104,6 +150,32 @@ TEST_F(KVLabelTest, FileReplacesItsTextAndStoresItsCode)
 	EXPECT_EQ(fCatalogue->fReplaced, 1);
 	EXPECT_STREQ(fCatalogue->GetLastLanguage(), "deDE");
 	EXPECT_STREQ(AskStrSetting("", "none", false), "deDE");
+	EXPECT_STREQ(fCatalogue->altLangFile.Path(), (fFolder / "KORU-Haiku.deDE").c_str());
+	EXPECT_EQ(StoredUnderTheName(), "deDE");
+}
+
+
+TEST_F(KVLabelTest, FileWithoutADotIsALanguageByItsPath)
+{
+	Load("\"Edit\"\t\t\"Bearbeiten\"\n", "German");
+	EXPECT_EQ(Text(6), "Bearbeiten");
+	EXPECT_STREQ(fCatalogue->GetLastLanguage(), (fFolder / "German").c_str());
+}
+
+
+TEST_F(KVLabelTest, MirroringAnewForgetsTheTranslations)
+{
+	Load("\"Open folder\"\t\t\"Ordner öffnen\"\n");
+	EXPECT_EQ(fCatalogue->fReplaced, 1);
+	fCatalogue->MirrorList(eLabel);
+	EXPECT_EQ(CountChanged(), 0);
+	EXPECT_EQ(fCatalogue->mirrorLabel.CountItems(), 221);
+	EXPECT_EQ(fCatalogue->fReplaced, 0);
+	EXPECT_EQ(fCatalogue->quelllist, eLabel);
+	// Each load counts for itself.
+	Load("\"Edit\"\t\t\"Bearbeiten\"\n");
+	Load("# nothing\n");
+	EXPECT_EQ(fCatalogue->fReplaced, 0);
 }
 
 
@@ -172,6 +244,7 @@ TEST_F(KVLabelTest, MissingFileStoresThatThereIsNone)
 	EXPECT_NE(output.find(" 0 Bytes | ..oops cant open - reset\n"), std::string::npos) << output;
 	EXPECT_EQ(CountChanged(), 0);
 	EXPECT_STREQ(AskStrSetting("", "none", false), "_non");
+	EXPECT_EQ(StoredUnderTheName(), "_non");
 	EXPECT_STREQ(fCatalogue->GetLastLanguage(), "frFR");
 }
 
@@ -254,29 +327,42 @@ TEST_F(KVLabelTest, ReportStopsWhereATableEnds)
 	fCatalogue->MirrorList(longer);
 	const char* const shorter[] = {"a", nullptr};
 	fCatalogue->quelllist = shorter;
-	fCatalogue->lastLanguage = "xxXX";
-	fCatalogue->ExpMissingStr();
-	BPath home;
-	find_directory(B_USER_DIRECTORY, &home);
-	const std::string report
-		= test::ReadFile(std::string(home.Path()) + "/KORU-Haiku_xxXX_Missing.txt");
-	EXPECT_NE(report.find("Labels: \n\"a\"\t\t\"a\"\n\nBREAK: Q-POINTER IS NULL\n"),
-		std::string::npos)
-		<< report;
+	EXPECT_EQ(Report("xxXX"),
+		ReportBegin("not translated") + "\"a\"\t\t\"a\"\n\nBREAK: Q-POINTER IS NULL\n");
+	EXPECT_EQ(fOutput, "\n - ExpMissingStr -\n - 0 not translated - \n");
+
+	fCatalogue->quelllist = longer;
+	delete[] static_cast<char*>(fCatalogue->mirrorLabel.ItemAt(1));
+	fCatalogue->mirrorLabel.ReplaceItem(1, nullptr);
+	EXPECT_EQ(Report("xxXX"),
+		ReportBegin("not translated") + "\"a\"\t\t\"a\"\n\nBREAK: M-POINTER IS NULL\n");
+	EXPECT_EQ(fOutput, "\n - ExpMissingStr -\n - 0 not translated - \n");
 }
 
 
 TEST_F(KVLabelTest, ReportWithoutASourceListsAll)
 {
+	const char* const table[] = {"a", " b", nullptr};
+	fCatalogue->MirrorList(table);
 	fCatalogue->quelllist = nullptr;
-	fCatalogue->lastLanguage = "yyYY";
-	fCatalogue->ExpMissingStr();
-	BPath home;
-	find_directory(B_USER_DIRECTORY, &home);
-	const std::string report
-		= test::ReadFile(std::string(home.Path()) + "/KORU-Haiku_yyYY_Missing.txt");
-	EXPECT_NE(report.find("\n# - - - all direct Labels: \n\"Koru\"\n\" Name: \"\n"),
-		std::string::npos);
+	EXPECT_EQ(Report("yyYY"), ReportBegin("all direct") + "\"a\"\n\" b\"\n");
+	EXPECT_EQ(fOutput, "\n - ExpMissingStr -\n - 0 not translated - \n");
+}
+
+
+TEST_F(KVLabelTest, ReportOfNoTextsHasItsHeadAlone)
+{
+	fCatalogue->ClearMirrorList();
+	EXPECT_EQ(Report("zzZZ"), "# - - - missing in: \n# - - - '/tmp/x.deDE'");
+	EXPECT_EQ(fOutput, "\n - ExpMissingStr -\n");
+}
+
+
+TEST_F(KVLabelTest, ReportThatCannotBeWrittenIsPrinted)
+{
+	fCatalogue->lastLanguage = "no/such/folder";
+	const std::string output = test::OutputOf([this] { fCatalogue->ExpMissingStr(); });
+	EXPECT_EQ(output, "\n - ExpMissingStr -\n..can't open \n");
 }
 
 

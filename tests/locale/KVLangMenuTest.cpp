@@ -5,6 +5,9 @@
 #include <fstream>
 #include <memory>
 #include <string>
+#include <utility>
+
+#include <sys/stat.h>
 
 #include <MenuItem.h>
 #include <Message.h>
@@ -18,6 +21,7 @@
 #include "locale/LanguageMessages.h"
 #include "tests/support/RunningApplication.h"
 #include "tests/support/Output.h"
+#include "tests/support/Unprivileged.h"
 
 
 namespace {
@@ -151,16 +155,90 @@ TEST_F(KVLangMenuTest, EmptyFilesAndFoldersAreLeftOut)
 TEST_F(KVLangMenuTest, NamesOfAllCodes)
 {
 	KVLangMenu menu("Language", "KORU-Haiku");
-	char name[B_FILE_NAME_LENGTH];
-	menu.GetNameFor("KORU-Haiku.jaJP", name);
-	EXPECT_STREQ(name, "日本語");
-	menu.GetNameFor("KORU-Haiku.trTR", name);
-	EXPECT_STREQ(name, "Tuerkç");
-	menu.GetNameFor("KORU-Haiku.nlBE.frFR", name);
-	EXPECT_STREQ(name, "Belgisch");
-	menu.GetNameFor(".deDE", name);
-	EXPECT_STREQ(name, ".deDE");
+	const auto name_for = [&menu](const char* fileName) {
+		char name[B_FILE_NAME_LENGTH] = "";
+		menu.GetNameFor(fileName, name);
+		return std::string(name);
+	};
+	const std::pair<const char*, const char*> names[] = {{"arAR", "Argentina"},
+		{"nlBE", "Belgisch"}, {"bgBG", "Bulgaria"}, {"deDE", "Deutsch"}, {"enUK", "English (UK)"},
+		{"enUS", "English (US)"}, {"esES", "Español"}, {"etEE", "Estonia"}, {"fiFI", "Finnish"},
+		{"frFR", "Français"}, {"itIT", "Italian"}, {"jaJP", "日本語"}, {"huHU", "Magyar"},
+		{"nlNL", "Nederlands"}, {"noNO", "Norsk"}, {"plPL", "Polish"}, {"ptPT", "Português"},
+		{"ruRU", "Russian"}, {"svSE", "Svenska"}, {"trTR", "Tuerkç"}};
+	for (const auto& [code, name] : names) {
+		EXPECT_EQ(name_for((std::string("KORU-Haiku.") + code).c_str()), name);
+		EXPECT_EQ(name_for((std::string("x.") + code + ".old").c_str()), name);
+		// Without the dot, in another case, or with nothing before it, the code is none.
+		EXPECT_EQ(name_for((std::string("KORU-Haiku-") + code).c_str()),
+			std::string("KORU-Haiku-") + code);
+		EXPECT_EQ(name_for((std::string(".") + code).c_str()), std::string(".") + code);
+	}
+	EXPECT_EQ(name_for("KORU-Haiku.dede"), "KORU-Haiku.dede");
+	// The first code of the table, not of the name, and wherever the name has it again.
+	EXPECT_EQ(name_for("KORU-Haiku.frFR.nlBE"), "Belgisch");
+	EXPECT_EQ(name_for(".deDE.deDE"), "Deutsch");
 	EXPECT_EQ(test::OutputOf([&menu] { menu.GetNameFor("x", nullptr); }), " oops no INTO-ADR \n");
+}
+
+
+TEST_F(KVLangMenuTest, ScanPrintsEachFile)
+{
+	const std::string german = Write("KORU-Haiku.deDE", "four");
+	const std::string empty = Write("KORU-Haiku.frFR", "");
+	const std::string closed = Write("KORU-Haiku.plPL", "x");
+	ASSERT_EQ(chmod(closed.c_str(), 0), 0);
+	AskStrSetting("KORU-Haiku", "deDE", true);
+	KVLabel::getKVLabel("KORU-Haiku");
+	std::string output;
+	{
+		const test::Unprivileged user;
+		ASSERT_TRUE(user.IsDone());
+		output = test::OutputOf([] { KVLangMenu("Language", "KORU-Haiku"); });
+	}
+	EXPECT_EQ(output,
+		"KVLangMenu::ScanFolder()\nKVLangMenu: '" + (fProgramFolder / "Dictionaries").string()
+			+ "'\n: '" + german + "'  4 Bytes\n  = last selected !\n: '" + empty
+			+ "'  0 Bytes\n can't read 0 ..ooops cant open\n back 1 \n");
+}
+
+
+TEST_F(KVLangMenuTest, LastOfSeveralFilesOfTheLanguageIsTheOne)
+{
+	Write("KORU-Haiku.1.deDE", "x");
+	const std::string second = Write("KORU-Haiku.2.deDE", "x");
+	Write("KORU-Haiku.frFR", "x");
+	AskStrSetting("KORU-Haiku", "deDE", true);
+	const KVLangMenu menu("Language", "KORU-Haiku");
+	EXPECT_TRUE(menu.ItemAt(0)->IsMarked());
+	EXPECT_TRUE(menu.ItemAt(1)->IsMarked());
+	EXPECT_FALSE(menu.ItemAt(2)->IsMarked());
+	EXPECT_FALSE(menu.ItemAt(4)->IsMarked());
+	EXPECT_EQ(menu.fSelected, 1);
+	EXPECT_STREQ(menu.fLanguageFilePath.String(), second.c_str());
+}
+
+
+TEST_F(KVLangMenuTest, LanguageIsLookedForInTheWholePath)
+{
+	Write("KORU-Haiku.deDE", "x");
+	// Any path beside the program has that in it.
+	AskStrSetting("KORU-Haiku", "Dict", true);
+	const KVLangMenu menu("Language", "KORU-Haiku");
+	EXPECT_TRUE(menu.ItemAt(0)->IsMarked());
+	EXPECT_EQ(menu.fSelected, 0);
+}
+
+
+TEST_F(KVLangMenuTest, TablesGoToTheCatalogue)
+{
+	KVLangMenu menu("Language", "KORU-Haiku");
+	const char* const first[] = {"a", nullptr};
+	const char* const second[] = {"b", "c", nullptr};
+	menu.MirrorThisList(first);
+	menu.MirrorAddThisList(second);
+	EXPECT_EQ(menu.fCatalogue->mirrorLabel.CountItems(), 3);
+	EXPECT_STREQ(menu.fCatalogue->getLabel(nullptr, 2), "c");
 }
 
 
@@ -172,7 +250,10 @@ TEST_F(KVLangMenuTest, ChosenLanguageIsLoadedAndMarked)
 	menu.MirrorThisList(eLabel);
 
 	BMessage message = choice(menu, 1);
-	menu.SetLangFile(&message);
+	const std::string output = test::OutputOf([&] { menu.SetLangFile(&message); });
+	EXPECT_NE(output.find(" Mark Item nr: 1\n\n- - - - -\nlastLanguage: 'frFR'\n"),
+		std::string::npos)
+		<< output;
 	EXPECT_STREQ(getLabel(6), "Modifier");
 	EXPECT_TRUE(menu.ItemAt(1)->IsMarked());
 	EXPECT_FALSE(menu.ItemAt(3)->IsMarked());

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <Qt>
@@ -188,6 +189,30 @@ TEST(GetMediaDuration, TheLongerOfSoundAndPicture)
 }
 
 
+// Tracks are looked at until there is one of each kind; up to then a later one replaces an earlier.
+TEST(GetMediaDuration, LaterTracksCountUntilBothKindsAreFound)
+{
+	const test::TempFolder folder;
+	const std::string tracks = test::Tone(9) + " " + test::Pattern(6) + " " + test::Tone(3);
+	EXPECT_EQ(duration_of(test::MakeMedia(folder / "found.mp4",
+				  tracks + " -map 0 -map 1 -map 2 -c:v mpeg4")),
+		9);
+	EXPECT_EQ(duration_of(test::MakeMedia(folder / "replaced.mp4",
+				  tracks + " -map 0 -map 2 -map 1 -c:v mpeg4")),
+		6);
+	EXPECT_EQ(duration_of(test::MakeMedia(folder / "sounds.m4a", tracks + " -map 0 -map 2")), 3);
+}
+
+
+TEST(GetMediaDuration, UncompressedTracksCountAsWell)
+{
+	const test::TempFolder folder;
+	EXPECT_EQ(duration_of(test::MakeMedia(folder / "raw.avi",
+				  test::Pattern(2) + " -c:v rawvideo -pix_fmt yuv420p")),
+		2);
+}
+
+
 TEST(GetMediaDuration, UnreadableFileHasNone)
 {
 	const test::TempFolder folder;
@@ -246,13 +271,50 @@ TEST(GetLastRosterMessenger, RefusesTheSystemAndItself)
 	test::TheApplication();
 	BMessage first = notice(B_SOME_APP_LAUNCHED, "application/x-vnd.first");
 	const BMessenger messenger = GetLastRosterMessenger(&first, nullptr);
-	for (const char* refused : {"application/x-vnd.Be-SHEL", "application/x-vnd.Be-TRAK",
-			 "application/x-vnd.Be-TSKB", "application/x-mw-BeIDE",
-			 "application/x-vnd.Haiku-Terminal", "application/x-vnd.kv-VinyloH"}) {
-		BMessage message = notice(B_SOME_APP_QUIT, refused);
-		EXPECT_EQ(GetLastRosterMessenger(&message, nullptr), messenger) << refused;
-		EXPECT_EQ(remembered(), "application/x-vnd.first") << refused;
+	const std::pair<const char*, const char*> refused[]
+		= {{"application/x-vnd.Be-SHEL", "terminal"}, {"application/x-vnd.Be-TRAK", "tracker "},
+			{"application/x-vnd.Be-TSKB", "deskbar "}, {"application/x-mw-BeIDE", "beIDE   "},
+			{"application/x-vnd.Haiku-Terminal", "terminal"},
+			{"application/x-vnd.kv-VinyloH", "MYSELF   "},
+			{"x/application/x-vnd.kv-VinyloH-other", "MYSELF   "},
+			// Whatever is looked for first decides.
+			{"x-Terminal-Be-TRAK", "tracker "}};
+	for (const auto& [signature, reason] : refused) {
+		BMessage message = notice(B_SOME_APP_QUIT, signature);
+		const std::string output = test::OutputOf(
+			[&] { EXPECT_EQ(GetLastRosterMessenger(&message, nullptr), messenger) << signature; });
+		EXPECT_EQ(output,
+			"##GetLastRosterMessenger()  'BRAQ' LAST | application/x-vnd.first\n ["
+				+ std::string(signature) + "]  NOT STORED | " + reason + "\n");
+		EXPECT_EQ(remembered(), "application/x-vnd.first") << signature;
 	}
+}
+
+
+TEST(GetLastRosterMessenger, NamesThatBeginLikeTheSystemsAreStored)
+{
+	test::TheApplication();
+	for (const char* signature :
+		{"Be-SHEL", "Be-TRAK/x", "Be-TSKB", "BeIDE", "Terminal", "application/x-vnd.kv-Vinylo"}) {
+		BMessage message = notice(B_SOME_APP_LAUNCHED, signature);
+		GetLastRosterMessenger(&message, nullptr);
+		EXPECT_EQ(remembered(), signature);
+	}
+}
+
+
+TEST(GetLastRosterMessenger, WithoutAMessageTheLastOneIsTold)
+{
+	test::TheApplication();
+	BMessage message = notice(B_SOME_APP_LAUNCHED, "application/x-vnd.first");
+	message.AddMessenger("be:window", be_app_messenger);
+	GetLastRosterMessenger(&message, nullptr);
+	BString signature;
+	const std::string output = test::OutputOf(
+		[&] { EXPECT_EQ(GetLastRosterMessenger(nullptr, &signature), be_app_messenger); });
+	EXPECT_EQ(output,
+		"##GetLastRosterMessenger()  NULL\n (Message==NULL ) BACK | application/x-vnd.first\n");
+	EXPECT_EQ(signature, "application/x-vnd.first");
 }
 
 
@@ -281,8 +343,15 @@ TEST(GetLastRosterMessenger, TakesTheWindowOfTheMessage)
 	// A notice without a signature stores an empty one.
 	BMessage nameless = notice(B_SOME_APP_LAUNCHED, nullptr);
 	nameless.AddMessenger("be:window", be_app_messenger);
-	GetLastRosterMessenger(&nameless, nullptr);
+	EXPECT_EQ(test::OutputOf([&] { GetLastRosterMessenger(&nameless, nullptr); }),
+		"##GetLastRosterMessenger()  'BRAS' LAST | application/x-vnd.window\n"
+		" STORED |  has Messenger \n");
 	EXPECT_EQ(remembered(), "");
+
+	// Nobody of that name runs: the window stays.
+	BMessage unknown = notice(B_SOME_APP_LAUNCHED, "application/x-vnd.unknown");
+	EXPECT_EQ(GetLastRosterMessenger(&unknown, nullptr), be_app_messenger);
+	EXPECT_EQ(remembered(), "application/x-vnd.unknown");
 }
 
 
@@ -337,6 +406,22 @@ TEST(ColorToChilds, ColorsKnownChildrenOnly)
 TEST(AddToolTip, DoesNothing)
 {
 	EXPECT_EQ(test::OutputOf([] { AddToolTip(nullptr, "tip"); }), "AddTT: bad view\n");
+	test::TheApplication();
+	BView view(BRect(0, 0, 9, 9), "view", 0, 0);
+	EXPECT_EQ(test::OutputOf([&view] { AddToolTip(&view, "tip"); }), "");
+}
+
+
+TEST(ChangeKoruFiletype, TakesAShortNumberButNoByte)
+{
+	const test::TempFolder folder;
+	BNode node(folder.Write("f", "").c_str());
+	node.WriteAttr("IR!OWN_FILE", B_INT32_TYPE, 0, "\7", 1);
+	EXPECT_EQ(test::OutputOf([&node] { ChangeKoruFiletype(node); }), " err  change type ");
+	int32 copied = 0;
+	EXPECT_LT(node.ReadAttr("KORU_TYPE", B_INT32_TYPE, 0, &copied, sizeof(copied)), 0);
+	node.WriteAttr("IR!OWN_FILE", B_INT32_TYPE, 0, "\7\1", 2);
+	EXPECT_EQ(test::OutputOf([&node] { ChangeKoruFiletype(node); }), " changed type  '263' ");
 }
 
 

@@ -126,11 +126,24 @@ TEST_F(PrefsTest, DefaultsAreTheDocumentedOnes)
 	const Prefs* const prefs = Prefs::getSTPrefs();
 	EXPECT_STREQ(prefs->rs232_port, "serial2");
 	EXPECT_STREQ(prefs->ir_logfile, "/boot/home/_logfile_KORU_");
+	EXPECT_STREQ(prefs->fSpareText, "-empty-");
+	EXPECT_STREQ(prefs->Desktop, "-empty-");
+	EXPECT_STREQ(prefs->Application, "-empty-");
+	EXPECT_STREQ(prefs->Audio, "-empty-");
+	EXPECT_STREQ(prefs->Video, "-empty-");
 	EXPECT_STREQ(prefs->Presetfile, "_preset_");
 	EXPECT_STREQ(prefs->Layoutfile, "_LAYOUT_");
 	EXPECT_STREQ(prefs->pref_AudioApp, "-empty-");
 	EXPECT_TRUE(prefs->mw_ever_topped);
 	EXPECT_TRUE(prefs->use_Folderjpg);
+	EXPECT_FALSE(prefs->use_splitting);
+	EXPECT_FALSE(prefs->use_pimped);
+	EXPECT_FALSE(prefs->show_pulse);
+	EXPECT_FALSE(prefs->hold_irInfo);
+	EXPECT_FALSE(prefs->use_systemsound);
+	EXPECT_FALSE(prefs->all_workspaces);
+	EXPECT_FALSE(prefs->use_DualButton);
+	EXPECT_FALSE(prefs->use_ompl);
 	EXPECT_FALSE(prefs->window_mtab);
 	EXPECT_FALSE(prefs->window_by_begin);
 	EXPECT_EQ(prefs->PRIORITY, 40);
@@ -336,6 +349,67 @@ TEST_F(PrefsTest, GetIntStoresItsDefault)
 	value = 0x1234567800000000;
 	EXPECT_TRUE(prefs->GetInt("number", &value, &deflt));
 	EXPECT_EQ(value, 12);
+}
+
+
+TEST_F(PrefsTest, MissingFlagAndFrameTakeTheirDefaults)
+{
+	Prefs* const prefs = Prefs::getSTPrefs();
+	bool flag = false;
+	const bool flagDefault = true;
+	EXPECT_TRUE(prefs->GetBool("flag", &flag, &flagDefault));
+	EXPECT_TRUE(flag);
+	EXPECT_EQ(attribute("flag"), std::string(1, '\1'));
+
+	BRect frame(9, 9, 9, 9);
+	const BRect frameDefault(1, 2, 3, 4.5f);
+	EXPECT_TRUE(prefs->GetRect("frame", &frame, &frameDefault));
+	EXPECT_EQ(frame, frameDefault);
+	const float floats[] = {1, 2, 3, 4.5f};
+	EXPECT_EQ(attribute("frame"), bytes_of(floats));
+}
+
+
+TEST_F(PrefsTest, MissingTextIsStoredButNotCopied)
+{
+	Prefs* const prefs = Prefs::getSTPrefs();
+	char text[256] = "before";
+	EXPECT_TRUE(prefs->GetStr("text", text, "default"));
+	EXPECT_STREQ(text, "before");
+	EXPECT_EQ(attribute("text"), "default");
+}
+
+
+// All others go back to their defaults.
+TEST_F(PrefsTest, MissingSplittingKeepsItsValue)
+{
+	Prefs* const prefs = Prefs::getSTPrefs();
+	BNode node(settings_path().c_str());
+	for (const FlagPref& pref : kFlagPrefs) {
+		ASSERT_EQ(node.RemoveAttr(pref.key), B_OK);
+		prefs->*pref.field = !pref.deflt;
+	}
+	EXPECT_TRUE(prefs->LoadPrefs());
+	for (const FlagPref& pref : kFlagPrefs) {
+		const bool expected = strcmp(pref.key, "use_splitting") == 0 ? true : pref.deflt;
+		EXPECT_EQ(prefs->*pref.field, expected) << pref.key;
+		EXPECT_EQ(attribute(pref.key), std::string(1, expected ? '\1' : '\0')) << pref.key;
+	}
+}
+
+
+TEST_F(PrefsTest, TextsHaveTheirBuffersSizes)
+{
+	EXPECT_EQ(sizeof(Prefs::rs232_port), 80u);
+	EXPECT_EQ(sizeof(Prefs::ir_logfile), 64u);
+	EXPECT_EQ(sizeof(Prefs::fSpareText), 80u);
+	EXPECT_EQ(sizeof(Prefs::Desktop), 80u);
+	EXPECT_EQ(sizeof(Prefs::Application), 80u);
+	EXPECT_EQ(sizeof(Prefs::Audio), 80u);
+	EXPECT_EQ(sizeof(Prefs::Video), 80u);
+	EXPECT_EQ(sizeof(Prefs::Presetfile), 80u);
+	EXPECT_EQ(sizeof(Prefs::Layoutfile), 80u);
+	EXPECT_EQ(sizeof(Prefs::pref_AudioApp), 255u);
 }
 
 

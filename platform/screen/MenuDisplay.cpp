@@ -96,6 +96,8 @@ NativeMenu::Window::Window(std::shared_ptr<const MenuContents> contents,
 	font.setBold(fContents->bold);
 	font.setItalic(fContents->italic);
 	setFont(font);
+	// Qt would leave out those at the ends and beside others.
+	setSeparatorsCollapsible(false);
 	_Build();
 }
 

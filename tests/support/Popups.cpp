@@ -142,6 +142,7 @@ MenuRows()
 			row.checked = action->isChecked();
 			row.radio = action->actionGroup() != nullptr;
 			row.submenu = action->menu() != nullptr;
+			row.height = menu->actionGeometry(action).height();
 			rows.push_back(row);
 		}
 		return true;

@@ -24,6 +24,8 @@ struct MenuRow {
 	bool checked = false;
 	bool radio = false;
 	bool submenu = false;
+	// In pixels; 0 for a row that is not seen.
+	int height = 0;
 };
 
 // The rows of the innermost open menu.

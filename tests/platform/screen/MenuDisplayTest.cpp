@@ -72,6 +72,30 @@ TEST_F(NativeMenuTest, ClickReportsTheChoice)
 }
 
 
+TEST_F(NativeMenuTest, EverySeparatorIsSeen)
+{
+	auto submenu = std::make_shared<MenuContents>();
+	submenu->lines = {separator(), item("inner", 1)};
+	MenuLine more = item("more", -1);
+	more.kind = MenuLine::kSubmenu;
+	more.submenu = submenu;
+	MenuContents contents;
+	contents.lines = {separator(), more, separator(), separator(), item("two", 2), separator()};
+	const auto menu = Open(contents);
+	ASSERT_TRUE(test::WaitForMenu());
+	ASSERT_EQ(test::MenuRows().size(), 6u);
+	for (const test::MenuRow& row : test::MenuRows())
+		EXPECT_GT(row.height, 0);
+
+	ASSERT_TRUE(test::PressKey(kKeyDown));
+	ASSERT_TRUE(test::PressKey(kKeyRight));
+	ASSERT_EQ(test::MenuRows().size(), 2u);
+	EXPECT_GT(test::MenuRows()[0].height, 0);
+	menu->Close();
+	EXPECT_TRUE(menu->WaitFor(milliseconds(10000)));
+}
+
+
 TEST_F(NativeMenuTest, ShowsWhatItWasGiven)
 {
 	MenuContents contents;

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""How long the program needs until it shows a long list, and how much memory it then has.
+"""How long the program needs until it shows a long list, how much memory it then has, and how long
+it needs to save and end.
 
 Usage: start.py [--program build/release/VinyloH] [--titles 10000] [--runs 5]
 
@@ -51,7 +52,8 @@ def memory_of(pid):
 
 
 def run(session, program):
-	"""Seconds until the window is on the screen, seconds until the list stands in it, and MiB."""
+	"""Seconds until the window is on the screen, until the list stands in it, MiB, and seconds from
+	the request to quit to the end."""
 	log = os.path.join(session.root, "log")
 	open(log, "wb").close()
 	begin = time.monotonic()
@@ -66,9 +68,10 @@ def run(session, program):
 	session.window("_koru_media_list", process=process)
 	shown = time.monotonic() - begin
 	memory = memory_of(process.pid)
+	begin = time.monotonic()
 	process.terminate()
 	process.wait()
-	return shown, listed, memory
+	return shown, listed, memory, time.monotonic() - begin
 
 
 def main():
@@ -81,8 +84,8 @@ def main():
 	with Session() as session:
 		make_list(session.home, arguments.titles)
 		results = [run(session, os.path.abspath(arguments.program)) for _ in range(arguments.runs)]
-	for name, unit, values in zip(["window shown after", "list stands after", "memory"],
-			["s", "s", "MiB"], zip(*results)):
+	for name, unit, values in zip(["window shown after", "list stands after", "memory",
+			"ends after"], ["s", "s", "MiB", "s"], zip(*results)):
 		print(f"{name:20} median {statistics.median(values):7.2f} {unit}"
 			f"   all {' '.join(f'{value:.2f}' for value in values)}")
 

@@ -3,6 +3,7 @@
 #include <View.h>
 
 #include <string.h>
+#include <vector>
 
 #include <Looper.h>
 #include <Window.h>
@@ -142,8 +143,10 @@ leave_tree(BView* view)
 {
 	TreeData* tree = ViewData::Of(view).tree;
 	BWindow* window = tree->host->Window();
-	ForSubtree(view, [tree, window](BView* each) {
+	std::vector<BView*> views;
+	ForSubtree(view, [tree, &views](BView* each) {
 		ViewData& data = ViewData::Of(each);
+		views.push_back(each);
 		if (tree->focus == each)
 			tree->focus = nullptr;
 		for (std::vector<BView*>* walk : tree->walks) {
@@ -153,12 +156,13 @@ leave_tree(BView* view)
 			}
 		}
 		tree->host->ViewDetached(*each);
-		if (window != nullptr)
-			window->RemoveHandler(each);
 		data.tree = nullptr;
 		data.ownRegion = QRegion();
 		data.updateRegion = QRegion();
 	});
+	// A looper finds its last handler at once, the first of many only after all others.
+	for (auto each = views.rbegin(); window != nullptr && each != views.rend(); ++each)
+		window->RemoveHandler(*each);
 }
 
 

@@ -51,9 +51,9 @@ class Hardship(unittest.TestCase):
 				file.write(lines)
 			path = os.path.join(session.home, "one.mp3")
 			make_title(path, 1, "One", "Nobody", 1)
-			program = Program(session, os.path.join(session.root, "log"))
+			program = Program(session, os.path.join(session.root, "log"), limit=90)
 			self.assertEqual(program.drop([path]), 0)
-			program.wait_for_text(" add to mflist")
+			program.wait_for_text(" add to mflist", limit=60)
 			self.assertEqual(program.close(limit=60), 0)
 			with open(playlist, encoding="utf-8") as file:
 				self.assertEqual(file.read(), lines + path + "\n")

@@ -35,14 +35,14 @@ def prefer_player(session, player):
 
 
 class Program:
-	def __init__(self, session, log, path=None):
+	def __init__(self, session, log, path=None, limit=20):
 		self.session = session
 		self.log = log
 		if os.path.exists(log):
 			os.remove(log)
 		self.process = session.start("VinyloH",
 			["stdbuf", "-oL", path or os.environ["VINYLOH"]], log=log)
-		self.window = session.window("_koru_media_list", process=self.process)
+		self.window = session.window("_koru_media_list", limit, self.process)
 
 	def text(self):
 		with open(self.log, encoding="utf-8", errors="surrogateescape") as file:

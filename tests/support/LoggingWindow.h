@@ -39,6 +39,7 @@ public:
 	{
 		std::lock_guard<std::mutex> lock(fMutex);
 		fLines.clear();
+		fMessages.clear();
 	}
 
 	void Keep(const BMessage& message)

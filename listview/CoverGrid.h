@@ -14,8 +14,8 @@ bool CoverGridFits(float viewWidth, float cell);
 
 /*!	Where the covers stand: rows of square cells, filled from left to right.
 
-	A row may end with a cell that reaches into the margin for the tiles; the area then grows with
-   it.
+	A row may end with a cell that reaches into the margin for the tiles; the area then grows to
+	its right edge.
 */
 struct CoverGrid {
 	CoverGrid(BRect bounds, float cell, int32 count);

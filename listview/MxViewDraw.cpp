@@ -33,9 +33,10 @@ constexpr rgb_color kBusyText = {20, 10, 10, 255};
 // A list of fewer titles shows how to fill it.
 constexpr int32 kHintBelowTitles = 3;
 
-// From top to bottom; each button's vertical extent is relative to the view and its center line.
+// Those beside the center line first; from top to bottom they stand as 0, 2, 4, 5, 3, 1.
 constexpr std::array<int32, 6> kDrawOrder = {4, 5, 3, 1, 0, 2};
 
+// Where a button stands: in the strip's whole width, at the strip's ends or beside the center line.
 BRect
 button_frame(int32 button, BRect strip, float middle)
 {

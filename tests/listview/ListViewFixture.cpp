@@ -68,6 +68,22 @@ TestedMxView::AddWPopMenu()
 }
 
 
+void
+TestedMxView::DrawProgressCalc(bool redraw)
+{
+	progressCalls.push_back(redraw);
+	MxView::DrawProgressCalc(redraw);
+}
+
+
+void
+TestedMxView::PlyBut(long button, BRect frame)
+{
+	buttonsDrawn.push_back(button);
+	MxView::PlyBut(button, frame);
+}
+
+
 bigtime_t ListViewFixture::sNow = 0;
 
 

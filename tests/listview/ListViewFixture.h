@@ -34,15 +34,20 @@ private:
 };
 
 
-// Can count how often the context menu is asked for instead of opening it.
+// Can count how often the context menu is asked for instead of opening it, and keeps what it is
+// told to draw.
 class TestedMxView : public MxView {
 public:
 	using MxView::MxView;
 
 	void AddWPopMenu() override;
+	void DrawProgressCalc(bool redraw) override;
+	void PlyBut(long button, BRect frame) override;
 
 	bool opensMenu = false;
 	int menuCount = 0;
+	std::vector<bool> progressCalls;
+	std::vector<long> buttonsDrawn;
 };
 
 

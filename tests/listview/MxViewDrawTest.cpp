@@ -85,12 +85,22 @@ TEST_F(MxViewDraw, ViewIsOutlined)
 
 TEST_F(MxViewDraw, ColorsFollowTheSystem)
 {
+	// A longer list shows no hint, which has a low color and a font of its own.
+	AddTitles(3);
 	MakePicture();
 	const rgb_color background = ui_color(B_MENU_BACKGROUND_COLOR);
 	fView->listBackColor = {1, 2, 3, 255};
+	fView->SetViewColor(1, 2, 3);
+	fView->SetLowColor(1, 2, 3);
+	fView->SetFont(be_bold_font);
 	Redraw();
 	EXPECT_EQ(fView->listBackColor, background);
 	EXPECT_EQ(fView->ViewColor(), background);
+	EXPECT_EQ(fView->LowColor(), background);
+	BFont font;
+	fView->GetFont(&font);
+	EXPECT_EQ(font.Size(), 10);
+	EXPECT_EQ(font.Face(), be_plain_font->Face());
 }
 
 
@@ -118,6 +128,15 @@ TEST_F(MxViewDraw, ButtonsStandInTheirStrip)
 	EXPECT_EQ(fView->buttonRect[5], BRect(415, 360, 475, 408));
 	EXPECT_EQ(fView->buttonRect[3], BRect(415, 418, 475, 622));
 	EXPECT_EQ(fView->buttonRect[1], BRect(415, 632, 475, 690));
+}
+
+
+TEST_F(MxViewDraw, ButtonsBesideTheCenterAreDrawnFirst)
+{
+	MakePicture();
+	fView->buttonsDrawn.clear();
+	fView->Draw(fView->Bounds());
+	EXPECT_EQ(fView->buttonsDrawn, (std::vector<long>{4, 5, 3, 1, 0, 2}));
 }
 
 
@@ -260,6 +279,31 @@ TEST_F(MxViewDraw, OneCoverHasAFrame)
 	EXPECT_EQ(Count(BRect(18, 18, 18, 58), kFrame), 41);
 	EXPECT_EQ(Count(BRect(58, 18, 58, 58), kFrame), 41);
 	EXPECT_EQ(At(59, 40), kPanel);
+}
+
+
+TEST_F(MxViewDraw, CoversAreScaledSmoothly)
+{
+	AddAlbum("two colors", {0, 0, 0, 255});
+	BBitmap& cover = *static_cast<BitmapPath*>(fAlbums.ItemAt(0))->fBitmap;
+	// The right half of ten pixels is white.
+	for (int32 pixel = 0; pixel < 100; pixel++) {
+		if (pixel % 10 >= 5)
+			memset(static_cast<uint8*>(cover.Bits()) + pixel * 4, 255, 4);
+	}
+	MakePicture();
+	fView->imageIndex = 0;
+	Redraw();
+	const rgb_color black = {0, 0, 0, 255};
+	const rgb_color white = {255, 255, 255, 255};
+	for (const BRect& row : {BRect(19, 38, 57, 38), BRect(17, 495, 402, 495)}) {
+		const int pixels = row.IntegerWidth() + 1;
+		const int between = pixels - Count(row, black) - Count(row, white);
+		EXPECT_GT(between, 1);
+		EXPECT_LT(between, pixels / 5);
+		EXPECT_EQ(At(row.left, row.top), black);
+		EXPECT_EQ(At(row.right, row.top), white);
+	}
 }
 
 

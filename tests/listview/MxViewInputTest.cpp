@@ -11,10 +11,14 @@
 #include "entryview/EntryMessages.h"
 #include "entryview/MEView.h"
 #include "locale/KVLangMenu.h"
+#include "locale/Labels.h"
 #include "settings/Prefs.h"
 #include "tests/listview/ListViewFixture.h"
+#include "tests/support/Desktop.h"
 #include "tests/support/Output.h"
 #include "window/WindowCommands.h"
+
+#include <QImage>
 
 
 namespace {
@@ -125,6 +129,45 @@ TEST_F(MxViewMessages, BoxSizeMarksItsItem)
 }
 
 
+TEST_F(MxViewMessages, BoxSizeAndColorDrawAtOnceAndAnew)
+{
+	const rgb_color dark = {20, 20, 20, 255};
+	for (const uint32 code : {uint32('MWmd'), uint32(B_PASTE)}) {
+		MakePicture();
+		fView->SetHighColor(kUntouched);
+		fView->FillRect(fView->Bounds());
+		EXPECT_EQ(Hand(code).find("MxView::MessageReceived"), std::string::npos);
+		fView->Sync();
+		EXPECT_EQ(At(0, 300), dark);
+		CloseView();
+
+		MakeView();
+		fWindow->Unlock();
+		fWindow->Show();
+		test::Settle(fWindow);
+		fWindow->Lock();
+		fView->SetHighColor(kUntouched);
+		fView->FillRect(BRect(200, 200, 210, 210));
+		Hand(code);
+		fWindow->Unlock();
+		test::Settle(fWindow);
+		EXPECT_NE(test::PictureOf(fWindow).pixel(205, 205),
+			qRgb(kUntouched.red, kUntouched.green, kUntouched.blue));
+		fWindow->Lock();
+		CloseView();
+	}
+}
+
+
+TEST_F(MxViewMessages, MeasuringIsAsked)
+{
+	MakeView();
+	const std::string output = Hand('MWPT');
+	EXPECT_EQ(output.rfind("Wish: Set PlaytimeAttribute..\n", 0), 0u);
+	EXPECT_EQ(fView->progressCalls.back(), true);
+}
+
+
 TEST_F(MxViewMessages, DropsGoToTheWindow)
 {
 	MakeView();
@@ -175,12 +218,30 @@ TEST_F(MxViewMessages, LanguageGoesOnToTheWindow)
 }
 
 
+TEST_F(MxViewMessages, LanguageIsTakenOnTopOfTheBuiltInTexts)
+{
+	const std::string file = fFolder.Write("KORU-Haiku.deDE", "\"Close\" \"Zumachen\"\n");
+	const std::string other = fFolder.Write("KORU-Haiku.frFR", "\"Save\" \"Sauver\"\n");
+	MakeView();
+	BMessage language(kMsgLanguageChanged);
+	language.AddString("_LangFilePath", file.c_str());
+	Hand(language);
+	EXPECT_STREQ(getLabel(173), "Zumachen");
+	language.ReplaceString("_LangFilePath", other.c_str());
+	Hand(language);
+	EXPECT_STREQ(getLabel(173), "Close");
+	EXPECT_STREQ(getLabel(199), "Sauver");
+}
+
+
 TEST_F(MxViewMessages, UnknownMessageIsPrinted)
 {
 	MakeView();
 	const std::string output = Hand('odd?');
 	EXPECT_EQ(output.rfind("MxView::MessageReceived\n", 0), 0u);
 	EXPECT_NE(output.find("odd?"), std::string::npos);
+	// The platform hands it on.
+	EXPECT_EQ(Received('odd?').size(), 1u);
 }
 
 
@@ -303,6 +364,16 @@ TEST_F(MxViewMouse, EmptyCellIsBackground)
 	AddAlbum("only");
 	Show(3, 0);
 	Click(BPoint(19 + 50, 30));
+	EXPECT_TRUE(Received(kMsgListOperation).empty());
+	EXPECT_EQ(fView->menuCount, 1);
+}
+
+
+TEST_F(MxViewMouse, WithoutAlbumsTheGridIsBackground)
+{
+	Show(3, 0);
+	MxView::ImgList = nullptr;
+	Click(BPoint(30, 30));
 	EXPECT_TRUE(Received(kMsgListOperation).empty());
 	EXPECT_EQ(fView->menuCount, 1);
 }

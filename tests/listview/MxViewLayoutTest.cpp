@@ -11,6 +11,7 @@
 #include "locale/KVLangMenu.h"
 #include "settings/Prefs.h"
 #include "tests/listview/ListViewFixture.h"
+#include "tests/support/Desktop.h"
 #include "tests/support/Output.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/RunningApplication.h"
@@ -107,6 +108,7 @@ TEST_F(MxViewLayout, EndKeepsTheColorAndTellsTheApplication)
 	const std::string output = test::OutputOf([view] { delete view; });
 	EXPECT_EQ(Settings().altWinBackCol, (rgb_color{9, 8, 7, 6}));
 	EXPECT_TRUE(contains(output, " last_top_media"));
+	EXPECT_TRUE(contains(output, "Prefs-Save"));
 	EXPECT_TRUE(contains(output, "[Del: MxView]"));
 	EXPECT_TRUE(
 		test::WaitFor([] { return test::TheApplication().CountReceived(kMsgWindowGone) > 0; }));
@@ -163,6 +165,20 @@ TEST_F(MxViewLayout, BackgroundPictureIsLoaded)
 	EXPECT_TRUE(contains(output, " Background-Bitmap  set"));
 	ASSERT_NE(fView->backBitmap, nullptr);
 	EXPECT_EQ(fView->backBitmap->Bounds(), BRect(0, 0, 31, 15));
+
+	// It is repeated from the left top corner on.
+	fWindow->Unlock();
+	fWindow->Show();
+	test::Settle(fWindow);
+	const QImage picture = test::PictureOf(fWindow);
+	const QRgb one = picture.pixel(4 * 32 + 8, 20 * 16 + 4);
+	const QRgb other = picture.pixel(4 * 32 + 24, 20 * 16 + 12);
+	EXPECT_NE(one, other);
+	for (int column = 1; column < 11; column++) {
+		EXPECT_EQ(picture.pixel(column * 32 + 8, 25 * 16 + 4), one) << column;
+		EXPECT_EQ(picture.pixel(column * 32 + 24, 25 * 16 + 12), other) << column;
+	}
+	fWindow->Lock();
 }
 
 
@@ -219,6 +235,18 @@ TEST_F(MxViewLayout, QuietTilesKeepTheTimingAlone)
 	fView->ChildsFromList(false);
 	EXPECT_GT(fView->playEnd, sNow);
 	EXPECT_TRUE(MEView::SepListSelected);
+}
+
+
+TEST_F(MxViewLayout, BuildingShowsItsProgress)
+{
+	AddTitles(3);
+	MakeView();
+	fView->progressCalls.clear();
+	fView->ChildsFromList(true);
+	EXPECT_TRUE(fView->progressCalls.empty());
+	fView->ChildsFromList(false);
+	EXPECT_EQ(fView->progressCalls, (std::vector<bool>{false, false, false, true}));
 }
 
 
@@ -347,6 +375,36 @@ TEST_F(MxViewLayout, ResizingLaysOutAnewAndKeepsTheTiming)
 	EXPECT_EQ(fView->centeredIndex, 1);
 	EXPECT_EQ(Tile(1)->Frame(), BRect(385, 188, 875, 302));
 	EXPECT_EQ(ShownTiles(), (Numbers{0, 1, 2}));
+}
+
+
+TEST_F(MxViewLayout, ResizingDrawsAtOnceAndAnew)
+{
+	AddTitles(1);
+	MakePicture();
+	fView->SetHighColor(kUntouched);
+	fView->FillRect(fView->Bounds());
+	fView->FrameResized(1000, 700);
+	fView->Sync();
+	// The first tile, and the outline of the view.
+	EXPECT_EQ(At(800, 300), (rgb_color{240, 240, 240, 255}));
+	EXPECT_EQ(At(0, 300), (rgb_color{20, 20, 20, 255}));
+	CloseView();
+
+	MakeView();
+	fWindow->Unlock();
+	fWindow->Show();
+	test::Settle(fWindow);
+	fWindow->Lock();
+	fView->SetHighColor(kUntouched);
+	fView->FillRect(BRect(200, 200, 210, 210));
+	fView->FrameResized(1000, 700);
+	fWindow->Unlock();
+	test::Settle(fWindow);
+	const rgb_color background = ui_color(B_MENU_BACKGROUND_COLOR);
+	EXPECT_EQ(test::PictureOf(fWindow).pixel(205, 205),
+		qRgb(background.red, background.green, background.blue));
+	fWindow->Lock();
 }
 
 

@@ -11,6 +11,7 @@
 #include "locale/KVLangMenu.h"
 #include "settings/Prefs.h"
 #include "tests/listview/ListViewFixture.h"
+#include "tests/support/Output.h"
 #include "tests/support/Popups.h"
 #include "tests/support/Wait.h"
 
@@ -129,6 +130,17 @@ TEST_F(MxViewMenu, MeasuringIsNotOfferedWhenEachTitleHasATime)
 	AddTitles(3, "00:30");
 	MakeView();
 	Open();
+	EXPECT_EQ(fView->popMenu->FindItem('MWPT'), nullptr);
+}
+
+
+TEST_F(MxViewMenu, ViewThatIsNoTileIsOnlyPrinted)
+{
+	AddTitles(2, "00:30");
+	MakeView();
+	fView->AddChild(new BView(BRect(0, 0, 1, 1), "other", B_FOLLOW_NONE, 0));
+	const std::string output = test::OutputOf([this] { Open(); });
+	EXPECT_NE(output.find(" not a MEView (2) \n"), std::string::npos);
 	EXPECT_EQ(fView->popMenu->FindItem('MWPT'), nullptr);
 }
 

@@ -2,9 +2,9 @@
 #include "listview/MxView.h"
 
 #include <atomic>
+#include <errno.h>
 #include <set>
 #include <thread>
-
 
 #include <Messenger.h>
 #include <Node.h>
@@ -12,6 +12,7 @@
 #include <String.h>
 
 #include "entryview/MEView.h"
+#include "platform/storage/ExtendedAttributes.h"
 #include "settings/Prefs.h"
 #include "tests/listview/ListViewFixture.h"
 #include "tests/support/Desktop.h"
@@ -131,10 +132,28 @@ TEST_F(MxViewPlayTimes, MissingFileIsPassedOver)
 }
 
 
+TEST_F(MxViewPlayTimes, TimeThatCannotBeKeptIsShown)
+{
+	const std::string path = AddSound("Three.wav", 3 * 8000);
+	MakeView();
+	hosted::ExtendedAttributes::SetRefusal(EROFS);
+	const std::string output = Measure();
+	hosted::ExtendedAttributes::SetRefusal(0);
+	EXPECT_TRUE(contains(output, " .. can't set Attribute\n"));
+	EXPECT_EQ(StoredLength(path), "none");
+	EXPECT_EQ(Tile(0)->fLengthCode, 4);
+}
+
+
 TEST_F(MxViewPlayTimes, EmptyListIsMeasuredAtOnce)
 {
 	MakeView();
+	fView->progressCalls.clear();
+	const bigtime_t begin = system_time();
 	EXPECT_FALSE(contains(Measure(), ":Node:"));
+	// After the pause in which the menu vanishes.
+	EXPECT_GE(system_time() - begin, 50000);
+	EXPECT_EQ(fView->progressCalls, (std::vector<bool>{false, true}));
 }
 
 

@@ -6,8 +6,11 @@
 #include "entryview/MEView.h"
 #include "settings/Prefs.h"
 #include "tests/listview/ListViewFixture.h"
+#include "tests/support/Desktop.h"
 #include "tests/support/Output.h"
 #include "window/WindowCommands.h"
+
+#include <QImage>
 
 
 namespace {
@@ -187,6 +190,20 @@ TEST_F(MxViewPlayback, NextIsAskedForWithEachPulseUntilItPlays)
 }
 
 
+TEST_F(MxViewPlayback, EndItselfIsNotOver)
+{
+	AddTitles(3, "00:30");
+	MakeView();
+	fView->CenterMediaFile(0, true, 0);
+	sNow = fView->playEnd;
+	fView->Pulse();
+	EXPECT_TRUE(Asked().empty());
+	sNow++;
+	fView->Pulse();
+	EXPECT_EQ(Asked(), (Numbers{1}));
+}
+
+
 TEST_F(MxViewPlayback, AfterTheLastTitleTheWindowDecides)
 {
 	AddTitles(3, "00:30");
@@ -344,6 +361,58 @@ TEST_F(MxViewPlayback, IndexWithoutATileStartsNothing)
 	// Laid out relative to the index that is not there.
 	fView->CenterMediaFile(3, true, 0);
 	EXPECT_EQ(Tile(2)->Frame().top, 288 - 119);
+}
+
+
+TEST_F(MxViewPlayback, StepFromAnIndexWithoutATileMarksNoTile)
+{
+	AddTitles(3, "00:30");
+	MakeView();
+	MEView::IsNext = 77;
+	fView->CenterMediaFile(-1, false, 2);
+	EXPECT_EQ(MEView::IsNext, 77);
+	EXPECT_EQ(fView->nextIndex, 1);
+	EXPECT_EQ(Settings().next_top_media, 1);
+}
+
+
+TEST_F(MxViewPlayback, LargestIndexHasNoNext)
+{
+	AddTitles(3, "00:30");
+	MakeView();
+	Settings().last_top_media = INT32_MAX;
+	fView->CenterMediaFile(INT32_MAX, false, 0);
+	EXPECT_EQ(Settings().next_top_media, INT32_MAX);
+}
+
+
+TEST_F(MxViewPlayback, TilesStandAtTheColumnsLeft)
+{
+	AddTitles(20);
+	MakeView();
+	fView->tileLeft = 300;
+	fView->CenterMediaFile(10, false, 0);
+	for (int32 index = 0; index < 20; index++)
+		EXPECT_EQ(Tile(index)->Frame().left, 300) << index;
+}
+
+
+TEST_F(MxViewPlayback, TileThatStaysInItsPlaceIsDrawnAnew)
+{
+	AddTitles(2, "00:30");
+	MakeView();
+	fView->CenterMediaFile(1, false, 0);
+	fWindow->Unlock();
+	fWindow->Show();
+	test::Settle(fWindow);
+	const auto fill = [this] { return test::PictureOf(fWindow).pixel(800, 300); };
+	EXPECT_EQ(fill(), qRgb(240, 240, 240));
+	fWindow->Lock();
+	fView->CenterMediaFile(1, true, 0);
+	fWindow->Unlock();
+	test::Settle(fWindow);
+	EXPECT_EQ(fill(), qRgb(250, 250, 150));
+	fWindow->Lock();
 }
 
 

@@ -136,6 +136,37 @@ TEST_F(MxViewToppedAlbum, AnotherAlbumCanBeShownWhileOneIsPlayed)
 }
 
 
+TEST_F(MxViewToppedAlbum, IsNotShownWhereTheGridDoesNotFit)
+{
+	MakeAlbums();
+	MakePicture();
+	fView->imageIndex = 0;
+	fView->imagesFit = false;
+	fView->ShowToppedAlbum(0);
+	fView->Sync();
+	EXPECT_FALSE(IsShown());
+	fView->imagesFit = true;
+	fView->ShowToppedAlbum(0);
+	fView->Sync();
+	EXPECT_TRUE(IsShown());
+}
+
+
+TEST_F(MxViewToppedAlbum, IsShownWithTheTilesAndWithAClickOnACover)
+{
+	MakeAlbums();
+	AddTitle("Title.mp3");
+	MakePicture();
+	fView->imageIndex = 0;
+	fView->CenterMediaFile(0, false, 0);
+	fView->Sync();
+	EXPECT_EQ(At(200, 500), kCover);
+	fView->MouseDown(BPoint(70, 30));
+	fView->Sync();
+	EXPECT_EQ(At(200, 500), kOther);
+}
+
+
 TEST_F(MxViewToppedAlbum, NeedsAGridOfOneAndAHalfTiles)
 {
 	MakeAlbums();

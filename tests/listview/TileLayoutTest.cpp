@@ -45,6 +45,9 @@ TEST(TileColumn, HalfCountsTheTilesThatFitBesideTheCenteredOne)
 	EXPECT_EQ(TileColumn(BRect(0, 0, 999, 700), 114).CountHalf(), 3);
 	// 250 / 119 is 2.1: three, but 250 is not more than 3 * 119 - 57.
 	EXPECT_EQ(TileColumn(BRect(0, 0, 999, 500), 114).CountHalf(), 2);
+	// 3 * 53 - 24 is 135, which is not enough; half a pixel more is.
+	EXPECT_EQ(TileColumn(BRect(0, 0, 999, 270), 48).CountHalf(), 2);
+	EXPECT_EQ(TileColumn(BRect(0, 0, 999, 271), 48).CountHalf(), 3);
 }
 
 

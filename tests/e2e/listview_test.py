@@ -158,7 +158,9 @@ class ListView(unittest.TestCase):
 			wait_for(lambda: self.calls("xdg-open") == [self.playlist], "the list in an editor")
 			for item in ["pico", "micro", "mini", "normal"]:
 				self.choose(item)
-			# The second player of the submenu: nobody, a separator, then those installed.
+			# In the submenu: nobody, a separator, then those installed.
+			self.choose("player", None, "Right", "Return")
+			self.program.wait_for_text("upaa >>  -none- \n")
 			self.choose("player", None, "Right", "Down", "Return")
 			self.program.wait_for_text("upaa >> /usr/bin/")
 			before = self.choose("about")
@@ -248,6 +250,34 @@ class ListView(unittest.TestCase):
 			self.check_album_items(taken)
 			self.assertEqual(self.program.close(), 0)
 			self.assertEqual(self.in_playlist(), self.titles[1:] + [taken])
+
+	def test_a_disabled_item_does_nothing(self):
+		with Session() as session:
+			self.prepare(session)
+			self.assertEqual(self.program.close(), 0)
+			gone = os.path.join(session.home, "Musik", "gone", "Alpha.wav")
+			with open(self.playlist, "w", encoding="utf-8") as file:
+				file.write(gone + "\n" + self.titles[1] + "\n")
+			self.start()
+			width, height = self.program.size()
+			x, y = self.program.at(width - 516 + 300, height / 2 + 30)
+			before = session.visible_windows()
+			session.run(["xdotool", "mousemove", str(x), str(y), "mousedown", "3"])
+			wait_for(lambda: session.visible_windows() > before, "the tile's menu")
+			# The first item, below the separator, opens the title's folder.
+			session.run(["xdotool", "mouseup", "3", "mousemove", str(x + 20), str(y + 14), "click", "1",
+				"sleep", "0.5"])
+			self.assertGreater(session.visible_windows(), before)
+			session.key("Escape")
+			wait_for(lambda: session.visible_windows() == before, "the menu's end")
+			self.assertEqual(self.calls("xdg-open"), [])
+			# The next title's folder is there: the same place opens it.
+			self.press_play_button(1)
+			session.run(["xdotool", "mousemove", str(x), str(y), "mousedown", "3"])
+			wait_for(lambda: session.visible_windows() > before, "the tile's menu")
+			session.run(["xdotool", "mouseup", "3", "mousemove", str(x + 20), str(y + 14), "click", "1"])
+			wait_for(lambda: self.calls("xdg-open") == [os.path.dirname(self.titles[1])], "the folder")
+			self.assertEqual(self.program.close(), 0)
 
 	def check_album_items(self, taken):
 		"""Taking a title leads back to the list, and so does the item that says so."""

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include <Autolock.h>
 #include <Message.h>
 #include <Messenger.h>
 #include <gtest/gtest.h>
@@ -17,7 +18,10 @@ namespace {
 // There is one application in a process: the tests go through its life, in their order.
 class WYNApplicationTest : public testing::Test {
 protected:
-	static void SetUpTestSuite() { sApplication = new WYNApplication; }
+	static void SetUpTestSuite()
+	{
+		sStart = test::OutputOf([] { sApplication = new WYNApplication; });
+	}
 
 	static void TearDownTestSuite()
 	{
@@ -28,10 +32,17 @@ protected:
 		Prefs::DeleteMe();
 	}
 
-	// The loop does not run, so the message is handled here. Returns what is printed.
 	static std::string Handle(uint32 what)
 	{
 		BMessage message(what);
+		return Handle(message);
+	}
+
+	// The loop does not run, so the message is handled here. Returns what is printed; the window,
+	// which may have its frame to tell of, is silent meanwhile.
+	static std::string Handle(BMessage& message)
+	{
+		const BAutolock lock(sApplication->fWindow);
 		return test::OutputOf([&] { sApplication->MessageReceived(&message); });
 	}
 
@@ -50,10 +61,13 @@ protected:
 	}
 
 	static WYNApplication* sApplication;
+	// What its making prints.
+	static std::string sStart;
 };
 
 
 WYNApplication* WYNApplicationTest::sApplication = nullptr;
+std::string WYNApplicationTest::sStart;
 
 } // namespace
 
@@ -63,6 +77,9 @@ TEST_F(WYNApplicationTest, ShowsItsWindowAtOnce)
 	ASSERT_NE(sApplication->fWindow, nullptr);
 	EXPECT_STREQ(sApplication->Signature(), "application/x-vnd.kv-VinyloH");
 	EXPECT_FALSE(sApplication->fWindow->IsHidden());
+	EXPECT_NE(sStart.find("me init frame: BRect(l:260.0, t:40.0, r:660.0, b:600.0)\n"),
+		std::string::npos)
+		<< sStart;
 }
 
 
@@ -87,6 +104,14 @@ TEST_F(WYNApplicationTest, UnknownCodesArePrintedAndGoToThePlatform)
 	EXPECT_EQ(Handle('abcd'), "WYN_App BMessage('abcd') {\n}\n");
 	EXPECT_EQ(Handle('irmi'), "WYN_App BMessage('irmi') {\n}\n");
 	EXPECT_EQ(Handle('MWpl'), "WYN_App BMessage('MWpl') {\n}\n");
+	// Of a script's command the platform says that nobody understands it.
+	BMessage script('abcd');
+	script.AddSpecifier("Nothing");
+	const std::string output = Handle(script);
+	EXPECT_EQ(output.find("WYN_App BMessage('abcd') {\n"), 0u) << output;
+	EXPECT_NE(output.find(": MessageReceived() couldn't understand the message:\n"),
+		std::string::npos)
+		<< output;
 }
 
 
@@ -111,8 +136,13 @@ TEST_F(WYNApplicationTest, LanguageAndRemoteKeysReachTheWindow)
 	sApplication->fWindow->Lock();
 	sApplication->fWindow->SetTitle("other");
 	sApplication->fWindow->Unlock();
+	const std::string output = test::OutputOf([] {
+		BMessage key('MWse');
+		sApplication->MessageReceived(&key);
+		WaitForWindow();
+	});
+	EXPECT_NE(output.find(" sorry...\n"), std::string::npos) << output;
 	Handle('kvCL');
-	Handle('MWse');
 	WaitForWindow();
 	sApplication->fWindow->Lock();
 	EXPECT_EQ(std::string(sApplication->fWindow->Title()).find("using: >> "), 0u);

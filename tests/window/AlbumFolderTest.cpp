@@ -1,9 +1,12 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
+#include <algorithm>
 #include <set>
 
 #include <unistd.h>
 
 #include <List.h>
+#include <Node.h>
+#include <TypeConstants.h>
 
 #include "listview/MxView.h"
 #include "settings/Prefs.h"
@@ -55,8 +58,15 @@ TEST_F(AlbumFolder, TitlesWithoutNumbersStayInTheFoldersOrder)
 {
 	Window();
 	Settings().last_top_media = 1;
+	Settings().last_timer_nr = 7;
+	Window().fListView->pathTrouble = true;
 	const std::string output = ShowAlbum();
 	EXPECT_EQ(Shown(), fTitles);
+	EXPECT_FALSE(Window().fListView->pathTrouble);
+	EXPECT_EQ(output.find("DoWithMediaFiles [13 proc]\tclear axflist 0 Items | fpath.Path: "
+				  + (fFolder / "album") + "\nnow axflist has 3 Items\n"),
+		0u)
+		<< output;
 	EXPECT_TRUE(contains(output, "now axflist has 3 Items\nlook for TrackNr info...\n"));
 	EXPECT_TRUE(contains(output, "## break, found no TrackNr or <= 0 !\n" + fTitles[2] + "\n"));
 	EXPECT_TRUE(contains(output, " axflist:\n  0 + " + fTitles[0] + "\n"));
@@ -65,6 +75,7 @@ TEST_F(AlbumFolder, TitlesWithoutNumbersStayInTheFoldersOrder)
 	EXPECT_EQ(MxView::MedList, Window().axflist);
 	EXPECT_EQ(Settings().last_top_media_buf, 1);
 	EXPECT_EQ(Settings().last_top_media, 0);
+	EXPECT_EQ(Settings().last_timer_nr, 0);
 	EXPECT_EQ(Window().fListView->imageIndex, 1);
 	EXPECT_EQ(Window().fListView->CountChildren(), 3);
 }
@@ -77,7 +88,11 @@ TEST_F(AlbumFolder, TitlesAreOrderedByTheirNumbers)
 	SetTrack(fTitles[2], 2);
 	const std::string output = ShowAlbum();
 	EXPECT_EQ(Shown(), (Paths{fTitles[1], fTitles[2], fTitles[0]}));
-	EXPECT_TRUE(contains(output, "   0| Nr:  1 = " + fTitles[1] + "\n"));
+	EXPECT_TRUE(contains(output,
+		"sort TrackNr...\n have a TRACKPNr-LIST:\n   0| Nr:  1 = " + fTitles[1]
+			+ "\n   1| Nr:  2 = " + fTitles[2] + "\n   2| Nr:  3 = " + fTitles[0]
+			+ "\nset playdata ..\n"))
+		<< output;
 }
 
 
@@ -87,6 +102,39 @@ TEST_F(AlbumFolder, OneTitleWithoutNumberLeavesTheFoldersOrder)
 	SetTrack(fTitles[2], 1);
 	ShowAlbum();
 	EXPECT_EQ(Shown(), fTitles);
+}
+
+
+TEST_F(AlbumFolder, NumbersThatAreNoneLeaveTheFoldersOrder)
+{
+	for (const std::string& title : fTitles)
+		SetTrack(title, 1);
+	SetTrack(fTitles[1], 0);
+	ShowAlbum();
+	EXPECT_EQ(Shown(), fTitles);
+
+	// Too short.
+	BNode node(fTitles[1].c_str());
+	node.RemoveAttr("Audio:Track");
+	const int16 number = 1;
+	node.WriteAttr("Audio:Track", B_INT32_TYPE, 0, &number, sizeof(number));
+	EXPECT_EQ((Do(MF_FOLDER, "", 1), Shown()), fTitles);
+}
+
+
+TEST_F(AlbumFolder, NextAlbumTakesTheFirstOnesPlace)
+{
+	const Paths others = {MakeTitle("other/x.mp3"), MakeTitle("other/y.mp3")};
+	SetTrack(others[0], 2);
+	SetTrack(others[1], 1);
+	for (const std::string& title : fTitles)
+		SetTrack(title, 1);
+	ShowAlbum();
+	ASSERT_EQ(Shown().size(), 3u);
+	Do(MF_FOLDER, "", AddAlbum(fFolder / "other"));
+	EXPECT_EQ(Shown(), (Paths{others[1], others[0]}));
+	EXPECT_EQ(Window().fListView->CountChildren(), 2);
+	EXPECT_EQ(Window().fListView->imageIndex, 2);
 }
 
 
@@ -101,14 +149,31 @@ TEST_F(AlbumFolder, EqualNumbersKeepTheOrderOfTheWalk)
 }
 
 
+TEST_F(AlbumFolder, ManyEqualNumbersKeepTheOrderOfTheWalk)
+{
+	Paths expected;
+	for (int number = 10; number < 60; number++)
+		expected.push_back(MakeTitle("large/" + std::to_string(number) + ".mp3"));
+	for (const std::string& title : expected)
+		SetTrack(title, 1);
+	Do(MF_FOLDER, "", AddAlbum(fFolder / "large"));
+	std::reverse(expected.begin(), expected.end());
+	EXPECT_EQ(Shown(), expected);
+}
+
+
 TEST_F(AlbumFolder, OnlyMediaFilesAreTaken)
 {
 	const std::string text = MakeTitle("album/notes.txt", "text/plain");
+	const std::string windows = MakeTitle("album/y.asf", "x/x-asf");
 	const std::string video = MakeTitle("album/z.mp4", "video/mp4");
 	MakeTitle("album/more/d.mp3");
+	ASSERT_EQ(symlink(fTitles[0].c_str(), (fFolder / "album/link.mp3").c_str()), 0);
 	const std::string output = ShowAlbum();
-	EXPECT_EQ(Shown(), (Paths{fTitles[0], fTitles[1], fTitles[2], video}));
+	EXPECT_EQ(Shown(), (Paths{fTitles[0], fTitles[1], fTitles[2], windows, video}));
 	EXPECT_TRUE(contains(output, " -> BAD (" + text + ")\n"));
+	// What is no file at all is not worth a word.
+	EXPECT_EQ(output.find(" -> BAD "), output.rfind(" -> BAD "));
 }
 
 
@@ -133,7 +198,8 @@ TEST_F(AlbumFolder, VanishedFolderIsTold)
 	const int32 number = AddAlbum(folder);
 	rmdir(folder.c_str());
 	const std::string output = Do(MF_FOLDER, "", number);
-	EXPECT_TRUE(contains(output, " InitCheck()\n"));
+	EXPECT_TRUE(contains(output,
+		" " + std::to_string(static_cast<long>(B_ENTRY_NOT_FOUND)) + " InitCheck()\n"));
 	EXPECT_TRUE(Window().fListView->pathTrouble);
 	EXPECT_TRUE(contains(output, "no items, open Folder please!\n"));
 	// One of the folder, one of what the file manager should have opened, in either order.
@@ -157,14 +223,18 @@ TEST_F(AlbumFolder, LeavingRestoresTheList)
 	Window();
 	Settings().last_top_media = 1;
 	ShowAlbum();
-	Settings().playingImage = 0;
+	Settings().playingImage = 1;
+	Settings().last_timer_nr = 7;
+	Window().fListView->pathTrouble = true;
 	const std::string output = Do(MF_FOLDER, "", 999);
+	EXPECT_FALSE(Window().fListView->pathTrouble);
 	EXPECT_TRUE(contains(output, "no valid folder...  back to the default-List\n"));
 	EXPECT_FALSE(Window().fFolderShown);
 	EXPECT_FALSE(MxView::SingleAlbum);
 	EXPECT_EQ(MxView::MedList, Window().mflist);
 	EXPECT_EQ(Settings().last_top_media, 1);
-	EXPECT_EQ(Window().fListView->imageIndex, 0);
+	EXPECT_EQ(Settings().last_timer_nr, 1);
+	EXPECT_EQ(Window().fListView->imageIndex, 1);
 	EXPECT_EQ(Window().fListView->CountChildren(), 2);
 }
 
@@ -198,6 +268,10 @@ TEST_F(AlbumFolder, NothingIsTakenWithoutAFolderOrATitle)
 	EXPECT_EQ(Do(MF_TAKE, "", 3), "DoWithMediaFiles [14 proc]\t");
 	EXPECT_EQ(Window().mflist->CountItems(), 2);
 	EXPECT_TRUE(Window().fFolderShown);
+	// Its titles are still known when it is shown no more.
+	Do(MF_FOLDER, "", 999);
+	EXPECT_EQ(Do(MF_TAKE, "", 0), "DoWithMediaFiles [14 proc]\t");
+	EXPECT_EQ(Window().mflist->CountItems(), 2);
 }
 
 

@@ -4,6 +4,7 @@
 #include <condition_variable>
 #include <thread>
 
+#include <Messenger.h>
 #include <gtest/gtest.h>
 
 
@@ -77,6 +78,9 @@ RunningApplication::LastReceived(uint32 what)
 void
 RunningApplication::ForgetReceived()
 {
+	// When this has been handled, so has all that was sent before.
+	BMessage reply;
+	BMessenger(this).SendMessage('last', &reply);
 	const std::lock_guard<std::mutex> guard(fLock);
 	fReceived.clear();
 }

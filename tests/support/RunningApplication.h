@@ -23,6 +23,7 @@ public:
 	int32 CountReceived(uint32 what);
 	// The last message of that code; an empty one if there is none.
 	BMessage LastReceived(uint32 what);
+	// Forgets also what is still on its way. Not for the application's own thread.
 	void ForgetReceived();
 
 private:

@@ -11,6 +11,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <List.h>
+#include <Roster.h>
+
 #include "settings/Locations.h"
 #include "settings/Prefs.h"
 #include "tests/support/Output.h"
@@ -43,10 +46,34 @@ protected:
 		return path;
 	}
 
+	// Starts a program that the user has made the player of that signature.
+	pid_t StartPlayer(const std::string& signature)
+	{
+		const std::string name = "player-of-" + std::to_string(++fPlayerCount);
+		fFolder.Write("home/.config/VinyloH/players.table",
+			"player tested\nsignature " + signature + "\nexecutable " + name + "\n");
+		const std::string path = fFolder / ("tools/" + name);
+		std::filesystem::copy_file(std::filesystem::canonical("/bin/sleep"), path);
+		char* const arguments[]
+			= {const_cast<char*>(path.c_str()), const_cast<char*>("60"), nullptr};
+		pid_t process = -1;
+		EXPECT_EQ(posix_spawn(&process, path.c_str(), nullptr, nullptr, arguments, environ), 0);
+		EXPECT_TRUE(test::WaitFor([&] { return be_roster->IsRunning(signature.c_str()); }));
+		return process;
+	}
+
+	static void End(pid_t process)
+	{
+		kill(process, SIGKILL);
+		waitpid(process, nullptr, 0);
+	}
+
 	std::string Command(const std::string& begin, const std::string& path)
 	{
 		return "[open][" + begin + "'" + path + "' &]\n";
 	}
+
+	int fPlayerCount = 0;
 };
 
 
@@ -79,6 +106,8 @@ TEST_F(ExternalPlayer, NoneOfTheMenuIsNoPlayer)
 	EXPECT_TRUE(contains(Open(MakeTitle("a.mp3")), " ..no User-Prefered-Audio-App \n"));
 	Prefer("1234567890");
 	EXPECT_TRUE(contains(Open(MakeTitle("a.mp3")), " ..no User-Prefered-Audio-App \n"));
+	Prefer("MediaPlayer");
+	EXPECT_TRUE(contains(Open(MakeTitle("a.mp3")), "evnt. Audio mit: 'MediaPlayer' starten\n"));
 }
 
 
@@ -111,6 +140,17 @@ TEST_F(ExternalPlayer, PlayerWhoseNameBeginsWithMediaPlayerStaysOpen)
 }
 
 
+TEST_F(ExternalPlayer, AnyTypeThatNamesAudioIsAudio)
+{
+	MakePlayer("MediaPlayerX");
+	Prefer("MediaPlayerX");
+	for (const char* type : {"audio", "application/x-audio-book", "video/x-audio"}) {
+		const std::string title = MakeTitle("a.bin", type);
+		EXPECT_TRUE(contains(Open(title), Command("MediaPlayerX ", title))) << type;
+	}
+}
+
+
 TEST_F(ExternalPlayer, VideoAndFoldersGoToTheFileManager)
 {
 	Prefer(MakePlayer("player"));
@@ -129,6 +169,9 @@ TEST_F(ExternalPlayer, ProgramIsRunItself)
 	ASSERT_EQ(rename(program.c_str(), (path + "2").c_str()), 0);
 	const std::string output = Open(path);
 	EXPECT_TRUE(contains(output, Command("", path)));
+
+	const std::string other = MakeTitle("other", "text/application/x-vnd.Be-elfexecutable");
+	EXPECT_TRUE(contains(Open(other), Command(kManager, other)));
 }
 
 
@@ -181,9 +224,49 @@ TEST_F(ExternalPlayer, ClosingWithoutAPlayerSendsNothing)
 	if (IsPlayerRunning())
 		GTEST_SKIP() << "a player is running";
 	const std::string output = test::OutputOf([] { ICloseMediaApp(); });
-	EXPECT_EQ(output.find(" - will stop any Audio-App \ncount roster teams: "), 0u);
+	BList teams;
+	be_roster->GetAppList(&teams);
+	EXPECT_EQ(output.find(" - will stop any Audio-App \ncount roster teams: "
+				  + std::to_string(teams.CountItems() - 1) + "\n"),
+		0u)
+		<< output;
 	EXPECT_TRUE(contains(output, "\nstop end\n"));
 	EXPECT_FALSE(contains(output, "STOP"));
+}
+
+
+TEST_F(ExternalPlayer, EachKnownPlayerIsAskedToQuit)
+{
+	if (IsPlayerRunning())
+		GTEST_SKIP() << "a player is running";
+	for (const char* signature : {"application/x-vnd.marcone-soundplay",
+			 "application/x-vnd.RMC.Zenebona", "application/x-vnd.yT-MediaPlayer",
+			 "application/x-vnd.Be.MediaPlayer", "application/x-vnd.YT-MediaPlayer",
+			 "application/x-vnd.yT-AudioTagger", "application/x-vnd.Haiku-MediaPlayer",
+			 "application/x-vnd.videolan-vlc", "application/x-vnd.Me.stampTV"}) {
+		const pid_t process = StartPlayer(signature);
+		const std::string output = test::OutputOf([] { ICloseMediaApp(); });
+		EXPECT_TRUE(
+			contains(output, " '" + std::string(signature) + "'  STOP\n status 0 \nstop end\n"))
+			<< output;
+		int status = 0;
+		EXPECT_EQ(waitpid(process, &status, 0), process);
+		EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM) << signature;
+	}
+}
+
+
+TEST_F(ExternalPlayer, ProgramWhoseSignatureIsOnlyLikeAPlayersStays)
+{
+	if (IsPlayerRunning())
+		GTEST_SKIP() << "a player is running";
+	for (const char* signature :
+		{"application/x-vnd.videolan-vlc2", "application/x-vnd.videolan-vl"}) {
+		const pid_t process = StartPlayer(signature);
+		EXPECT_FALSE(contains(test::OutputOf([] { ICloseMediaApp(); }), "STOP")) << signature;
+		EXPECT_EQ(waitpid(process, nullptr, WNOHANG), 0) << signature;
+		End(process);
+	}
 }
 
 
@@ -223,9 +306,7 @@ TEST_F(ExternalPlayer, OnlyOneRunningPlayerIsAskedToQuit)
 	collect();
 	EXPECT_EQ(goneCount, 1);
 	for (const pid_t process : processes) {
-		if (process > 0) {
-			kill(process, SIGKILL);
-			waitpid(process, &status, 0);
-		}
+		if (process > 0)
+			End(process);
 	}
 }

@@ -266,9 +266,11 @@ TEST_F(MediaFileList, EditOpensThePlaylistAsText)
 
 TEST_F(MediaFileList, PlaylistWhosePathEndsItsQuotesIsNotHandedToTheShell)
 {
+	ASSERT_EQ(chdir(fFolder.Path().c_str()), 0);
 	Window().fPlaylistPath.SetTo((fFolder / "it's; touch hurt; 'x").c_str());
 	EXPECT_TRUE(contains(Do(MF_EDIT), " oops: couldn't execute \n"));
 	EXPECT_NE(access("hurt", F_OK), 0);
+	ASSERT_EQ(chdir("/"), 0);
 }
 
 

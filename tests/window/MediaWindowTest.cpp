@@ -4,7 +4,10 @@
 
 #include <string.h>
 
+#include <Font.h>
+#include <InterfaceDefs.h>
 #include <List.h>
+#include <StringView.h>
 
 #include "listview/MxView.h"
 #include "settings/Prefs.h"
@@ -437,9 +440,28 @@ TEST(ShowNextWindow, WithoutAnOwnerItSaysSo)
 	const std::string output = test::OutputOf([&window] { window = ShowNextWindow(nullptr); });
 	EXPECT_EQ(output, " CAN NOT SET BST \n INFOWIN  ON DESKTOP ?\n");
 	ASSERT_TRUE(window->Lock());
+	EXPECT_FALSE(window->IsHidden());
 	EXPECT_EQ(window->Look(), B_MODAL_WINDOW_LOOK);
+	EXPECT_NE(window->Flags() & B_NOT_RESIZABLE, 0u);
+	EXPECT_NE(window->Flags() & B_NOT_ZOOMABLE, 0u);
 	EXPECT_STREQ(window->Title(), " WYN Init-Win ");
 	EXPECT_EQ(window->Frame(), BRect(20, 80, 840, 100));
-	EXPECT_NE(window->FindView("gloInfo"), nullptr);
+
+	const BView* const view = window->FindView("view");
+	ASSERT_NE(view, nullptr);
+	EXPECT_EQ(view->Frame(), window->Bounds());
+	EXPECT_EQ(view->ViewColor(), ui_color(B_MENU_BACKGROUND_COLOR));
+	const BStringView* const text = dynamic_cast<BStringView*>(window->FindView("gloInfo"));
+	ASSERT_NE(text, nullptr);
+	EXPECT_EQ(text->Parent(), view);
+	EXPECT_STREQ(text->Text(), "WYN INFO OPEND");
+	EXPECT_EQ(text->Alignment(), B_ALIGN_LEFT);
+	EXPECT_EQ(text->Frame(), BRect(5, 0, 820, 20));
+	EXPECT_EQ(text->ResizingMode(), static_cast<uint32>(B_FOLLOW_LEFT_RIGHT | B_FOLLOW_BOTTOM));
+	BFont font;
+	text->GetFont(&font);
+	BFont plain(be_plain_font);
+	plain.SetSize(12);
+	EXPECT_TRUE(font == plain);
 	window->Quit();
 }

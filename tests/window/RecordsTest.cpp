@@ -43,6 +43,15 @@ TEST_F(BitmapPathTest, TakesTheCover)
 }
 
 
+TEST_F(BitmapPathTest, TakesTheFirstCoverOfAll)
+{
+	MakePicture("Folder.jpg", 16);
+	MakePicture("folder.jpg", 24);
+	MakePicture("b_desktop.jpg", 32);
+	EXPECT_EQ(BitmapPath(fFolder.Path().c_str()).fBitmap->Bounds().IntegerWidth(), 15);
+}
+
+
 TEST_F(BitmapPathTest, TakesTheLowerCaseCoverAndTheDesktopPicture)
 {
 	MakePicture("b_desktop.jpg", 32);
@@ -81,6 +90,7 @@ TEST_F(BitmapPathTest, PictureThatIsNoneHasAnIcon)
 	EXPECT_EQ(album.fKind, BitmapPath::kIcon);
 	ASSERT_NE(album.fBitmap, nullptr);
 	EXPECT_EQ(album.fBitmap->Bounds(), BRect(0, 0, 31, 31));
+	EXPECT_EQ(album.fBitmap->ColorSpace(), B_CMAP8);
 }
 
 
@@ -102,6 +112,26 @@ TEST_F(BitmapPathTest, AudioCDHasABuiltInPicture)
 	}
 	EXPECT_EQ(output,
 		"add Bitmap: " + folder + "\n ### MAKE LINK /Audio CD/wav/  \n[1] [1] '" + folder + "'\n");
+}
+
+
+TEST_F(BitmapPathTest, AudioCDWithACoverShowsIt)
+{
+	const std::string folder = fFolder.MakeFolder("Audio CD/wav");
+	MakePicture("Audio CD/wav/folder.jpg", 24);
+	const BitmapPath album(folder.c_str());
+	EXPECT_FALSE(album.fBuiltIn);
+	ASSERT_NE(album.fBitmap, nullptr);
+	EXPECT_EQ(album.fBitmap->Bounds().IntegerWidth(), 23);
+}
+
+
+TEST_F(BitmapPathTest, OnlyAudioCDsOwnFolderHasTheBuiltInPicture)
+{
+	for (const char* name : {"My Audio CD/wav", "Audio CD/mp3", "Audio CD"})
+		EXPECT_FALSE(BitmapPath(fFolder.MakeFolder(name).c_str()).fBuiltIn) << name;
+	// What is below it belongs to it.
+	EXPECT_TRUE(BitmapPath(fFolder.MakeFolder("Audio CD/wav/1").c_str()).fBuiltIn);
 }
 
 

@@ -125,7 +125,10 @@ TEST_F(ShellCommands, AudioWithAPreferredPlayerFirstAsksARunningOneToQuit)
 		GTEST_SKIP() << "a player is running";
 	const std::string player = MakePlayer("player");
 	Prefer(player);
+	const auto begin = std::chrono::steady_clock::now();
 	const std::string output = Open(MakeTitle("a.mp3"));
+	// The old player has time to end, and the new one to begin.
+	EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(460));
 	EXPECT_EQ(Commands(), Paths{player + " '" + (fFolder / "a.mp3") + "' &"});
 	EXPECT_LT(output.find(" - will stop any Audio-App \n"), output.find("stop end\n"));
 	EXPECT_LT(output.find("stop end\n"), output.find("wait close.. reopen app\n[open]["));
@@ -180,6 +183,14 @@ TEST_F(ShellCommands, NotFoundTextIsNotRunIfItsPathIsMoreThanAWord)
 			"[open][" + text + "]\n oops: couldn't execute :\n" + text + "\n");
 		EXPECT_EQ(Commands(), Paths());
 	}
+}
+
+
+TEST_F(ShellCommands, NotFoundTextOfABareNameIsNotRun)
+{
+	const std::string text = "true\n ..File not found :(";
+	EXPECT_EQ(Open("true"), "[open][" + text + "]\n oops: couldn't execute :\n" + text + "\n");
+	EXPECT_EQ(Commands(), Paths());
 }
 
 

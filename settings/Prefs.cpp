@@ -43,6 +43,7 @@ Prefs::Prefs()
 	printf("U_SETTING_PATH %s\n", path.Path() != nullptr ? path.Path() : "");
 
 	fFile = std::make_unique<BFile>(path.Path(), B_READ_WRITE | B_CREATE_FILE);
+	_SetDefaults();
 	LoadPrefs();
 }
 
@@ -50,6 +51,19 @@ Prefs::Prefs()
 Prefs::~Prefs()
 {
 	Save();
+}
+
+
+// The frames get theirs when they are loaded.
+void
+Prefs::_SetDefaults()
+{
+	for (const TextPref& pref : kTextPrefs)
+		snprintf(pref.buffer(*this), pref.capacity, "%s", pref.deflt);
+	for (const FlagPref& pref : kFlagPrefs)
+		this->*pref.field = pref.deflt;
+	for (const NumberPref& pref : kNumberPrefs)
+		this->*pref.field = static_cast<int32>(pref.deflt);
 }
 
 

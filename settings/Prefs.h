@@ -55,23 +55,24 @@ public:
 	static Prefs* aPrefsZgr;
 
 	BPath fLanguagePath;
-	int32 PRIORITY = 40;
+	// The settings that are stored begin with the defaults of PrefsTable.h.
+	int32 PRIORITY = 0;
 	bool use_ompl = false;
 	bool window_mtab = false;
-	bool mw_ever_topped = true;
+	bool mw_ever_topped = false;
 	// Index of the title that plays.
 	int32 last_top_media = 0;
 	// Its index in the media file list while an album folder is shown, and what is then saved.
 	int32 last_top_media_buf = 0;
 	int32 next_top_media = 0;
-	int32 LINK_SIZE = 1;
+	int32 LINK_SIZE = 0;
 	int32 last_timer_nr = -1;
 	int32 playingImage = -1;
 	BString playingTitle;
 	BString playingArtist;
 	rgb_color altWinBackCol = {216, 216, 216, 0};
-	char rs232_port[80] = "serial2";
-	char ir_logfile[64] = "/boot/home/_logfile_KORU_";
+	char rs232_port[80] = "";
+	char ir_logfile[64] = "";
 	BRect prefs_window_rect;
 	BRect vr_window_rect;
 	BRect lt_window_rect;
@@ -83,21 +84,22 @@ public:
 	bool show_pulse = false;
 	bool hold_irInfo = false;
 	bool all_workspaces = false;
-	bool use_Folderjpg = true;
+	bool use_Folderjpg = false;
 	bool use_splitting = false;
 	// Neither loaded nor saved.
 	char fSpareText[80] = "-empty-";
-	char Desktop[80] = "-empty-";
-	char Application[80] = "-empty-";
-	char Audio[80] = "-empty-";
-	char Video[80] = "-empty-";
-	char Presetfile[80] = "_preset_";
-	char Layoutfile[80] = "_LAYOUT_";
-	char pref_AudioApp[255] = "-empty-";
+	char Desktop[80] = "";
+	char Application[80] = "";
+	char Audio[80] = "";
+	char Video[80] = "";
+	char Presetfile[80] = "";
+	char Layoutfile[80] = "";
+	char pref_AudioApp[255] = "";
 	// Some read or write has failed.
 	bool fError = false;
 
 private:
+	void _SetDefaults();
 	bool _LoadTexts(size_t begin, size_t end);
 	bool _LoadFlags(size_t begin, size_t end);
 	bool _LoadFrames();

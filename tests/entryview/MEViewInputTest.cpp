@@ -156,6 +156,17 @@ TEST_F(MEViewInput, OtherButtonsDoNothing)
 }
 
 
+// Whatever else calls the hook, its buttons are unknown.
+TEST_F(MEViewInput, PressThatNoMouseMessageCameWithDoesNothing)
+{
+	const BAutolock lock(fWindow);
+	ASSERT_EQ(fWindow->CurrentMessage(), nullptr);
+	fTile->MouseDown(BPoint(5, 5));
+	EXPECT_EQ(fTile->fMenuCount, 0);
+	EXPECT_EQ(MEView::IsNext, 0);
+}
+
+
 TEST_F(MEViewInput, DropGoesToTheWindow)
 {
 	BMessage drop(B_SIMPLE_DATA);

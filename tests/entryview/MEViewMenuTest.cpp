@@ -128,13 +128,41 @@ TEST_F(MEViewMenu, TileOfTheListCanBeRemoved)
 }
 
 
+TEST_F(MEViewMenu, OpensAtThePointerInItsOwnFont)
+{
+	MakeTile("Song.mp3");
+	OpenMenu();
+	EXPECT_EQ(test::MenuFontPixels(), 11);
+	int x;
+	int y;
+	ASSERT_TRUE(test::MenuCorner(&x, &y));
+	const BPoint pointer = fWindow->Frame().LeftTop() + BPoint(60, 60);
+	EXPECT_EQ(BPoint(x, y), pointer);
+	CloseMenu();
+	EXPECT_STREQ(fTile->fContextMenu->Name(), "MeView_Menu");
+	EXPECT_FALSE(fTile->fContextMenu->IsRadioMode());
+}
+
+
+TEST_F(MEViewMenu, WithoutTheSecondButtonThereIsNoMenu)
+{
+	MakeTile("Song.mp3");
+	ASSERT_TRUE(fWindow->Lock());
+	fTile->AddPopMenu();
+	EXPECT_EQ(fTile->fContextMenu, nullptr);
+	fWindow->Unlock();
+}
+
+
 TEST_F(MEViewMenu, ExistingFolderCanBeOpened)
 {
 	MakeTile("Song.mp3");
 	fTile->fCanOpenFolder = true;
 	OpenMenu();
 	EXPECT_TRUE(test::MenuRows()[1].enabled);
-	EXPECT_EQ(Choose("Open folder").GetInt32("mpl_what", -1), MF_OFOLD);
+	const BMessage message = Choose("Open folder");
+	EXPECT_EQ(message.GetInt32("mpl_what", -1), MF_OFOLD);
+	EXPECT_EQ(message.GetInt32("mpl_nr", -1), 4);
 }
 
 
@@ -144,7 +172,9 @@ TEST_F(MEViewMenu, BadNameCanBeReplaced)
 	OpenMenu();
 	EXPECT_EQ(Labels(),
 		(Rows{"-", "Open folder", "Remove from List", "-", "Replace bad chars in filename"}));
-	EXPECT_EQ(Choose("Replace bad chars in filename").GetInt32("mpl_what", -1), MF_RBC);
+	const BMessage message = Choose("Replace bad chars in filename");
+	EXPECT_EQ(message.GetInt32("mpl_what", -1), MF_RBC);
+	EXPECT_EQ(message.GetInt32("mpl_nr", -1), 4);
 }
 
 

@@ -11,6 +11,8 @@
 #include <TypeConstants.h>
 #include <gtest/gtest.h>
 
+#include "settings/Prefs.h"
+#include "tests/support/Output.h"
 #include "tests/support/RunningApplication.h"
 #include "tests/support/TempFolder.h"
 
@@ -120,6 +122,17 @@ TEST_F(MEViewTest, StartsAsDocumented)
 	tile.GetFont(&font);
 	EXPECT_EQ(font.Size(), 11);
 	EXPECT_EQ(font.Face(), be_bold_font->Face());
+	EXPECT_EQ(font.Face(), B_BOLD_FACE);
+}
+
+
+TEST_F(MEViewTest, FirstTileFetchesTheSettings)
+{
+	MEView::mPrefs = nullptr;
+	Prefs::getSTPrefs();
+	EXPECT_EQ(test::OutputOf([] { MEView(kFrame, "v", "first", 0); }), " got Prefs..\n");
+	EXPECT_EQ(MEView::mPrefs, Prefs::getSTPrefs());
+	EXPECT_EQ(test::OutputOf([] { MEView(kFrame, "v", "second", 0); }), "");
 }
 
 
@@ -246,4 +259,21 @@ TEST_F(MEViewLookForIcon, MissingFileIsNotFound)
 	EXPECT_FALSE(tile.fFound);
 	EXPECT_EQ(tile.fMissingPath, fPath);
 	EXPECT_EQ(tile.fKind, MEView::kUnknownKind);
+	EXPECT_EQ(tile.fLengthCode, 0);
+	EXPECT_FLOAT_EQ(tile.fLength, 0.02f);
+}
+
+
+TEST_F(MEViewLookForIcon, SecondLookForgetsALengthThatIsGone)
+{
+	SetText("Audio:Length", "4:35");
+	MEView tile(kFrame, "v", "Song", 0);
+	tile.LookForIcon(&fPath);
+	EXPECT_EQ(tile.fLengthCode, 435);
+	ASSERT_EQ(fNode.RemoveAttr("Audio:Length"), B_OK);
+	tile.LookForIcon(&fPath);
+	EXPECT_EQ(tile.fLengthCode, 0);
+	EXPECT_EQ(tile.fMinutes, 0);
+	EXPECT_EQ(tile.fSeconds, 0);
+	EXPECT_FLOAT_EQ(tile.fLength, 0.02f);
 }

@@ -195,6 +195,14 @@ TEST_F(KVLabelTest, SecondLineMatchesTheTextAsItIsNow)
 }
 
 
+TEST_F(KVLabelTest, LongTextIsMetInFull)
+{
+	const std::string text(230, 'x');
+	Load("\"Edit\"\t\"" + text + "\"\n\"" + text + "\"\t\"short\"\n");
+	EXPECT_EQ(Text(6), "short");
+}
+
+
 TEST_F(KVLabelTest, LabelsThatShareATextAreAllReplaced)
 {
 	Load("\"Prefered Audio-Application : \"\t\"Spieler\"\n");
@@ -206,6 +214,9 @@ TEST_F(KVLabelTest, LabelsThatShareATextAreAllReplaced)
 TEST_F(KVLabelTest, CommentsAndBrokenLinesChangeNothing)
 {
 	Load("# \"Edit\"\t\"x\"\n \"Edit\"\t\"x\"\n\"Edit\"\n\"Edit\n\"\n\"\n\"Edit\"x\n\n");
+	EXPECT_EQ(CountChanged(), 0);
+	// Everything else of an entry is there.
+	Load("#Edit\"\"\"x\"\n");
 	EXPECT_EQ(CountChanged(), 0);
 }
 

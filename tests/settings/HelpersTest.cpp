@@ -1,6 +1,7 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
 #include "settings/Helpers.h"
 
+#include <atomic>
 #include <memory>
 #include <string>
 #include <utility>
@@ -8,6 +9,7 @@
 
 #include <Qt>
 
+#include <Autolock.h>
 #include <Bitmap.h>
 #include <Box.h>
 #include <Button.h>
@@ -20,13 +22,16 @@
 #include <StringView.h>
 #include <TextControl.h>
 #include <TypeConstants.h>
+#include <Window.h>
 #include <gtest/gtest.h>
 
+#include "tests/support/Desktop.h"
 #include "tests/support/RunningApplication.h"
 #include "tests/support/Media.h"
 #include "tests/support/Output.h"
 #include "tests/support/Popups.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/Wait.h"
 
 
 static void
@@ -400,6 +405,46 @@ TEST(ColorToChilds, ColorsKnownChildrenOnly)
 	EXPECT_EQ(plain->ViewColor(), plainColor);
 	EXPECT_EQ(deep->ViewColor(), deepColor);
 	EXPECT_EQ(test::OutputOf([] { ColorToChilds(nullptr); }), "View=NULL\n");
+}
+
+
+namespace {
+
+class CountingBox : public BBox {
+public:
+	using BBox::BBox;
+
+	void Draw(BRect update) override
+	{
+		fDrawCount++;
+		BBox::Draw(update);
+	}
+
+	std::atomic<int> fDrawCount = 0;
+};
+
+} // namespace
+
+
+TEST(ColorToChilds, ColoredChildrenAreDrawnAnew)
+{
+	test::TheApplication();
+	BWindow* const window = new BWindow(BRect(0, 0, 99, 99), "colors", B_TITLED_WINDOW, 0);
+	CountingBox* const box = new CountingBox(BRect(0, 0, 49, 49), "box");
+	BView* const parent = new BView(window->Bounds(), "parent", B_FOLLOW_NONE, 0);
+	parent->AddChild(box);
+	window->AddChild(parent);
+	window->Show();
+	ASSERT_TRUE(test::WaitFor([box] { return box->fDrawCount > 0; }));
+	test::Settle(window);
+	const int before = box->fDrawCount;
+	{
+		const BAutolock lock(window);
+		parent->SetViewColor(1, 2, 3);
+		ColorToChilds(parent);
+	}
+	EXPECT_TRUE(test::WaitFor([box, before] { return box->fDrawCount > before; }));
+	test::CloseWindow(window);
 }
 
 

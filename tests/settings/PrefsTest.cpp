@@ -291,6 +291,18 @@ TEST_F(PrefsTest, ShortAndForeignValuesAreAcceptedAsTheyAre)
 }
 
 
+TEST_F(PrefsTest, ShortNumberKeepsTheBytesThatItDoesNotHave)
+{
+	Prefs* const prefs = Prefs::getSTPrefs();
+	store("number", B_INT32_TYPE, "\1\2", 2);
+	long value = 0x77777777;
+	const long deflt = 0;
+	EXPECT_TRUE(prefs->GetInt("number", &value, &deflt));
+	const int32 stored = static_cast<int32>(value);
+	EXPECT_EQ(bytes_of(stored), "\1\2\x77\x77");
+}
+
+
 TEST_F(PrefsTest, ColorOfWrongSizeIsNotTaken)
 {
 	store(kBackColorKey, B_RGB_COLOR_TYPE, "\1\2\3", 3);
@@ -443,7 +455,12 @@ TEST_F(PrefsTest, EnviromentFindsOrMakesTheLanguageFolder)
 	EXPECT_NE(prefs->fLanguagePath.InitCheck(), B_OK);
 	EXPECT_EQ(test::OutputOf([prefs] { prefs->Enviroment(); }),
 		">> build: " + folder.string() + "\n");
-	EXPECT_TRUE(std::filesystem::is_directory(folder));
+	struct stat status;
+	ASSERT_EQ(stat(folder.c_str(), &status), 0);
+	EXPECT_TRUE(S_ISDIR(status.st_mode));
+	const mode_t mask = umask(0);
+	umask(mask);
+	EXPECT_EQ(status.st_mode & 0777, 0755 & ~mask);
 	EXPECT_STREQ(prefs->fLanguagePath.Path(), folder.c_str());
 	EXPECT_EQ(test::OutputOf([prefs] { prefs->Enviroment(); }), ">> OK: " + folder.string() + "\n");
 }

@@ -8,5 +8,7 @@
 #define class_name(object) ((typeid(*(object))).name())
 #define cast_as(object, class) (dynamic_cast<class*>(object))
 #define is_kind_of(object, class) (dynamic_cast<class*>(object) != 0)
+// Of that very class, not of one derived from it.
+#define is_instance_of(object, class) (typeid(*(object)) == typeid(class))
 
 #endif // CLASS_INFO_H

@@ -76,11 +76,40 @@ TEST(TintColor, KeepsAlpha)
 TEST(UiColor, GivesTheDefaults)
 {
 	EXPECT_EQ(ui_color(B_PANEL_BACKGROUND_COLOR), make_color(216, 216, 216));
+	EXPECT_EQ(ui_color(B_MENU_BACKGROUND_COLOR), make_color(216, 216, 216));
 	EXPECT_EQ(ui_color(B_WINDOW_TAB_COLOR), make_color(255, 203, 0));
-	EXPECT_EQ(ui_color(B_KEYBOARD_NAVIGATION_COLOR), make_color(0, 0, 229));
+	EXPECT_EQ(ui_color(B_NAVIGATION_BASE_COLOR), make_color(0, 0, 229));
+	EXPECT_EQ(ui_color(B_DESKTOP_COLOR), make_color(51, 102, 152));
+	EXPECT_EQ(ui_color(B_MENU_SELECTED_BACKGROUND_COLOR), make_color(153, 153, 153));
+	EXPECT_EQ(ui_color(B_MENU_ITEM_TEXT_COLOR), make_color(0, 0, 0));
+	EXPECT_EQ(ui_color(B_MENU_SELECTED_ITEM_TEXT_COLOR), make_color(0, 0, 0));
+	EXPECT_EQ(ui_color(B_MENU_SELECTED_BORDER_COLOR), make_color(0, 0, 0));
+	EXPECT_EQ(ui_color(B_PANEL_TEXT_COLOR), make_color(0, 0, 0));
+	EXPECT_EQ(ui_color(B_DOCUMENT_BACKGROUND_COLOR), make_color(255, 255, 255));
+	EXPECT_EQ(ui_color(B_DOCUMENT_TEXT_COLOR), make_color(0, 0, 0));
+	EXPECT_EQ(ui_color(B_CONTROL_BACKGROUND_COLOR), make_color(222, 222, 222));
+	EXPECT_EQ(ui_color(B_CONTROL_TEXT_COLOR), make_color(0, 0, 0));
+	EXPECT_EQ(ui_color(B_CONTROL_BORDER_COLOR), make_color(172, 172, 172));
+	EXPECT_EQ(ui_color(B_CONTROL_HIGHLIGHT_COLOR), make_color(102, 152, 203));
+	EXPECT_EQ(ui_color(B_NAVIGATION_PULSE_COLOR), make_color(0, 0, 0));
+	EXPECT_EQ(ui_color(B_SHINE_COLOR), make_color(255, 255, 255));
+	EXPECT_EQ(ui_color(B_SHADOW_COLOR), make_color(0, 0, 0));
+	EXPECT_EQ(ui_color(B_TOOL_TIP_BACKGROUND_COLOR), make_color(255, 255, 216));
+	EXPECT_EQ(ui_color(B_TOOL_TIP_TEXT_COLOR), make_color(0, 0, 0));
+	EXPECT_EQ(ui_color(B_WINDOW_TEXT_COLOR), make_color(0, 0, 0));
+	EXPECT_EQ(ui_color(B_WINDOW_INACTIVE_TAB_COLOR), make_color(232, 232, 232));
+	EXPECT_EQ(ui_color(B_WINDOW_INACTIVE_TEXT_COLOR), make_color(80, 80, 80));
+	EXPECT_EQ(ui_color(B_WINDOW_BORDER_COLOR), make_color(224, 224, 224));
+	EXPECT_EQ(ui_color(B_WINDOW_INACTIVE_BORDER_COLOR), make_color(232, 232, 232));
 	EXPECT_EQ(ui_color(B_CONTROL_MARK_COLOR), make_color(27, 82, 140));
+	EXPECT_EQ(ui_color(B_LIST_BACKGROUND_COLOR), make_color(255, 255, 255));
 	EXPECT_EQ(ui_color(B_LIST_SELECTED_BACKGROUND_COLOR), make_color(190, 190, 190));
+	EXPECT_EQ(ui_color(B_LIST_ITEM_TEXT_COLOR), make_color(0, 0, 0));
+	EXPECT_EQ(ui_color(B_LIST_SELECTED_ITEM_TEXT_COLOR), make_color(0, 0, 0));
+	EXPECT_EQ(ui_color(B_SCROLL_BAR_THUMB_COLOR), make_color(216, 216, 216));
+	EXPECT_EQ(ui_color(B_LINK_TEXT_COLOR), make_color(51, 102, 187));
 	EXPECT_EQ(ui_color(B_STATUS_BAR_COLOR), make_color(50, 150, 255));
+	EXPECT_EQ(ui_color(B_SUCCESS_COLOR), make_color(46, 204, 64));
 	EXPECT_EQ(ui_color(B_FAILURE_COLOR), make_color(255, 65, 54));
 }
 
@@ -117,6 +146,14 @@ TEST(SystemColors, HoldThePalette)
 	EXPECT_EQ(map->color_list[189], make_color(255, 175, 19));
 	EXPECT_EQ(map->color_list[255], make_color(255, 255, 255, 0));
 	EXPECT_EQ(system_colors(), map);
+
+	// FNV-1a of all of them, in their order.
+	uint32 hash = 2166136261u;
+	for (const rgb_color& color : map->color_list) {
+		for (const uint8 channel : {color.red, color.green, color.blue, color.alpha})
+			hash = (hash ^ channel) * 16777619u;
+	}
+	EXPECT_EQ(hash, 0x331ceee2u);
 }
 
 

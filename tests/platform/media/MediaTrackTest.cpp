@@ -12,6 +12,12 @@
 #include "tests/support/Media.h"
 #include "tests/support/TempFolder.h"
 
+static_assert(B_MEDIA_NO_TYPE == -1 && B_MEDIA_UNKNOWN_TYPE == 0 && B_MEDIA_RAW_AUDIO == 1);
+static_assert(B_MEDIA_RAW_VIDEO == 2 && B_MEDIA_TEXT == 6 && B_MEDIA_MULTISTREAM == 8);
+static_assert(B_MEDIA_ENCODED_AUDIO == 10 && B_MEDIA_ENCODED_VIDEO == 11);
+static_assert(sizeof(media_codec_info::pretty_name) == 96);
+static_assert(sizeof(media_codec_info::short_name) == 32);
+
 using test::MakeMedia;
 using test::Pattern;
 using test::TempFolder;

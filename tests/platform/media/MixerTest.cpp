@@ -17,6 +17,9 @@
 #include "tests/support/SoundServer.h"
 #include "tests/support/Wait.h"
 
+static_assert(BParameter::B_NULL_PARAMETER == 0 && BParameter::B_DISCRETE_PARAMETER == 1);
+static_assert(BParameter::B_CONTINUOUS_PARAMETER == 2 && BParameter::B_TEXT_PARAMETER == 3);
+
 using test::SoundServer;
 
 

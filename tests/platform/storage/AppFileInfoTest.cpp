@@ -10,6 +10,11 @@
 
 #include "tests/support/TempFolder.h"
 
+static_assert(B_DEVELOPMENT_VERSION == 0 && B_ALPHA_VERSION == 1 && B_BETA_VERSION == 2);
+static_assert(B_GAMMA_VERSION == 3 && B_GOLDEN_MASTER_VERSION == 4 && B_FINAL_VERSION == 5);
+static_assert(B_APP_VERSION_KIND == 0 && B_SYSTEM_VERSION_KIND == 1);
+static_assert(sizeof(version_info) == 340);
+
 using test::TempFolder;
 
 

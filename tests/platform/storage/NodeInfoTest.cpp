@@ -16,6 +16,8 @@
 #include "platform/screen/DisplayThread.h"
 #include "tests/support/TempFolder.h"
 
+static_assert(B_LARGE_ICON == 32 && B_MINI_ICON == 16 && B_OPEN == 0);
+
 using test::TempFolder;
 
 

@@ -118,8 +118,11 @@ TEST(ClassInfo, KindIsAskedOfTheObject)
 	Base base;
 	Base* object = &derived;
 	EXPECT_TRUE(is_kind_of(object, Derived));
+	EXPECT_TRUE(is_instance_of(object, Derived));
+	EXPECT_FALSE(is_instance_of(object, Base));
 	EXPECT_EQ(cast_as(object, Derived), &derived);
 	object = &base;
 	EXPECT_FALSE(is_kind_of(object, Derived));
+	EXPECT_TRUE(is_instance_of(object, Base));
 	EXPECT_EQ(cast_as(object, Derived), nullptr);
 }

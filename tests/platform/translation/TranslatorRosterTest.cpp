@@ -21,6 +21,11 @@
 #include "tests/support/Pictures.h"
 #include "tests/support/TempFolder.h"
 
+static_assert(B_TRANSLATOR_BITMAP == 0x62697473 && B_TRANSLATOR_TEXT == 0x54455854);
+static_assert(B_TRANSLATOR_NONE == 0x6e6f6e65 && B_TRANSLATOR_ANY_TYPE == 0);
+static_assert(B_JPEG_FORMAT == 0x4a504547 && B_PNG_FORMAT == 0x504e4720);
+static_assert(B_GIF_FORMAT == 0x47494620 && sizeof(TranslatorBitmap) == 32);
+
 using test::PngHeader;
 using test::SavePicture;
 using test::TempFolder;

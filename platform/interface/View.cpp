@@ -8,6 +8,7 @@
 #include <Looper.h>
 #include <Window.h>
 
+#include "platform/app/Debugger.h"
 #include "platform/interface/ViewData.h"
 #include "platform/interface/ViewPrivate.h"
 
@@ -172,7 +173,9 @@ BView::AddChild(BView* child, BView* before)
 	if (child == nullptr || child == this)
 		return;
 	ViewData& data = ViewData::Of(child);
-	if (data.parent != nullptr || (before != nullptr && ViewData::Of(before).parent != this))
+	if (data.parent != nullptr)
+		hosted::Debugger("AddChild failed - the view already has a parent.");
+	if (before != nullptr && ViewData::Of(before).parent != this)
 		return;
 	fData->Insert(child, before);
 	if (fData->tree == nullptr)
@@ -320,11 +323,14 @@ ViewData::Remove(BView* child)
 }
 
 
-// Goes from the nearest of the first, the last, and the child that was asked for last.
+// Goes from the nearest of the first, the last, and the child that was asked for last. Below 0 it
+// is the first one, as on Haiku.
 BView*
 ViewData::ChildAt(int32 index)
 {
-	if (index < 0 || index >= childCount)
+	if (index < 0)
+		return firstChild;
+	if (index >= childCount)
 		return nullptr;
 	BView* child = firstChild;
 	int32 at = 0;

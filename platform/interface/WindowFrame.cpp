@@ -22,6 +22,10 @@ namespace {
 constexpr int kDesktopLook = 4;
 constexpr int kLeftTitledLook = 25;
 
+// No window is larger, or further away from the screen, whatever a program asks for.
+constexpr float kLargestSize = 32768;
+constexpr float kFarthestPlace = 1000000;
+
 constexpr uint32 kKnownFlags = B_NOT_MOVABLE | B_NOT_RESIZABLE | B_NOT_H_RESIZABLE
 	| B_NOT_V_RESIZABLE | B_WILL_ACCEPT_FIRST_CLICK | B_NOT_CLOSABLE | B_NOT_ZOOMABLE
 	| B_AVOID_FRONT | B_NO_WORKSPACE_ACTIVATION | B_OUTLINE_RESIZE | B_AVOID_FOCUS
@@ -62,6 +66,21 @@ is_known_look(int look)
 }
 
 
+// What the desktop is told of a size that may be beyond all measure.
+int
+size_in_pixels(float size)
+{
+	return static_cast<int>(std::clamp(size, 0.0f, kLargestSize)) + 1;
+}
+
+
+float
+place_within_reach(float place)
+{
+	return isnan(place) ? 0 : std::clamp(roundf(place), -kFarthestPlace, kFarthestPlace);
+}
+
+
 bool
 has_title(int look)
 {
@@ -80,7 +99,7 @@ WindowHost::_RequestFrame()
 {
 	fFrameSerial++;
 	const QRect frame(static_cast<int>(fFrame.left), static_cast<int>(fFrame.top),
-		static_cast<int>(fFrame.Width()) + 1, static_cast<int>(fFrame.Height()) + 1);
+		size_in_pixels(fFrame.Width()), size_in_pixels(fFrame.Height()));
 	const int32 serial = fFrameSerial;
 	fNative->Change([frame, serial](WindowWishes& wishes) {
 		wishes.frame = frame;
@@ -89,19 +108,30 @@ WindowHost::_RequestFrame()
 }
 
 
+// The frame that a new window gets when asked for this one, which may come from damaged settings.
+BRect
+WindowHost::_FirstFrame(BRect frame)
+{
+	const BRect near(place_within_reach(frame.left), place_within_reach(frame.top),
+		place_within_reach(frame.right), place_within_reach(frame.bottom));
+	return BRect(near.left, near.top, near.left + std::min(near.Width(), kLargestSize),
+		near.top + std::min(near.Height(), kLargestSize));
+}
+
+
 void
 WindowHost::_ClampToLimits(float& width, float& height) const
 {
-	width = std::clamp(width, fMinWidth, fMaxWidth);
-	height = std::clamp(height, fMinHeight, fMaxHeight);
+	width = std::clamp(std::clamp(width, fMinWidth, fMaxWidth), 0.0f, kLargestSize);
+	height = std::clamp(std::clamp(height, fMinHeight, fMaxHeight), 0.0f, kLargestSize);
 }
 
 
 void
 WindowHost::_RequestLimits()
 {
-	const QSize smallest(static_cast<int>(fMinWidth) + 1, static_cast<int>(fMinHeight) + 1);
-	const QSize largest(static_cast<int>(fMaxWidth) + 1, static_cast<int>(fMaxHeight) + 1);
+	const QSize smallest(size_in_pixels(fMinWidth), size_in_pixels(fMinHeight));
+	const QSize largest(size_in_pixels(fMaxWidth), size_in_pixels(fMaxHeight));
 	fNative->Change([smallest, largest](WindowWishes& wishes) {
 		wishes.smallest = smallest;
 		wishes.largest = largest;
@@ -157,8 +187,10 @@ BWindow::MoveTo(BPoint point)
 	BAutolock lock(this);
 	if (!lock.IsLocked())
 		return;
-	point.x = roundf(point.x);
-	point.y = roundf(point.y);
+	if (isnan(point.x) || isnan(point.y))
+		return;
+	point.x = place_within_reach(point.x);
+	point.y = place_within_reach(point.y);
 	if (fHost->fFrame.LeftTop() == point)
 		return;
 	fHost->fFrame.OffsetTo(point);
@@ -190,6 +222,8 @@ BWindow::ResizeTo(float width, float height)
 {
 	BAutolock lock(this);
 	if (!lock.IsLocked())
+		return;
+	if (isnan(width) || isnan(height))
 		return;
 	width = roundf(width);
 	height = roundf(height);
@@ -247,7 +281,8 @@ BWindow::Frame() const
 void
 BWindow::SetSizeLimits(float minWidth, float maxWidth, float minHeight, float maxHeight)
 {
-	if (minWidth > maxWidth || minHeight > maxHeight)
+	// Written so that what is no number is refused, too.
+	if (!(minWidth <= maxWidth && minHeight <= maxHeight))
 		return;
 	BAutolock lock(this);
 	if (!lock.IsLocked())

@@ -2,7 +2,6 @@
 // The window's picture, from its views to the desktop.
 #include "platform/interface/WindowHost.h"
 
-#include <math.h>
 #include <utility>
 
 #include <QPainter>
@@ -32,7 +31,7 @@ WindowHost::WindowHost(BWindow* window, BRect frame, const char* title)
 	:
 	fWindow(window),
 	fNative(std::make_shared<NativeWindow>(BMessenger(window))),
-	fFrame(roundf(frame.left), roundf(frame.top), roundf(frame.right), roundf(frame.bottom)),
+	fFrame(_FirstFrame(frame)),
 	fTitle(title == nullptr ? "" : title)
 {
 	fRoot.reset(NewRootView(*this, fFrame.OffsetToCopy(0, 0)));

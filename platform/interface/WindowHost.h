@@ -82,6 +82,7 @@ private:
 	void _WakeWindow();
 
 	// The frame, the look.
+	static BRect _FirstFrame(BRect frame);
 	void _RequestFrame();
 	void _ClampToLimits(float& width, float& height) const;
 	void _RequestLimits();

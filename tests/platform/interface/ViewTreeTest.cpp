@@ -53,7 +53,8 @@ TEST(ViewTree, KeepsChildrenInOrder)
 	EXPECT_EQ(parent.ChildAt(1), b);
 	EXPECT_EQ(parent.ChildAt(2), c);
 	EXPECT_EQ(parent.ChildAt(3), nullptr);
-	EXPECT_EQ(parent.ChildAt(-1), nullptr);
+	EXPECT_EQ(parent.ChildAt(-1), a);
+	EXPECT_EQ(a->ChildAt(-1), nullptr);
 	EXPECT_EQ(a->NextSibling(), b);
 	EXPECT_EQ(c->PreviousSibling(), b);
 	EXPECT_EQ(a->PreviousSibling(), nullptr);
@@ -75,16 +76,28 @@ TEST(ViewTree, KeepsChildrenInOrder)
 }
 
 
-TEST(ViewTree, RefusesASecondParent)
+TEST(ViewTreeDeathTest, SecondParentStopsTheProgram)
+{
+	testing::FLAGS_gtest_death_test_style = "threadsafe";
+	BView first(BRect(), "first", B_FOLLOW_NONE, 0);
+	BView second(BRect(), "second", B_FOLLOW_NONE, 0);
+	BView* child = new BView(BRect(), "child", B_FOLLOW_NONE, 0);
+	first.AddChild(child);
+	EXPECT_DEATH(second.AddChild(child), "already has a parent");
+	EXPECT_DEATH(first.AddChild(child), "already has a parent");
+}
+
+
+TEST(ViewTree, NoViewIsItsOwnChild)
 {
 	BView first(BRect(), "first", B_FOLLOW_NONE, 0);
 	BView second(BRect(), "second", B_FOLLOW_NONE, 0);
 	BView* child = new BView(BRect(), "child", B_FOLLOW_NONE, 0);
 	first.AddChild(child);
-	second.AddChild(child);
-	EXPECT_EQ(child->Parent(), &first);
-	EXPECT_EQ(second.CountChildren(), 0);
 	first.AddChild(&first);
+	first.AddChild(nullptr);
+	second.AddChild(&first, child);
+	EXPECT_EQ(second.CountChildren(), 0);
 	EXPECT_EQ(first.CountChildren(), 1);
 }
 

@@ -1,12 +1,15 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
 #include <gtest/gtest.h>
 
+#include <math.h>
+
 #include <QWidget>
 
 #include <Autolock.h>
 #include <Screen.h>
 #include <Window.h>
 
+#include "platform/screen/QtMessages.h"
 #include "tests/support/Desktop.h"
 #include "tests/support/LoggingWindow.h"
 #include "tests/support/Wait.h"
@@ -146,6 +149,58 @@ TEST_F(WindowFrame, CrossedSizeLimitsAreIgnored)
 	EXPECT_EQ(minHeight, 0);
 	EXPECT_EQ(maxHeight, 32768);
 	EXPECT_EQ(fWindow->Bounds(), BRect(0, 0, 299, 199));
+}
+
+
+TEST_F(WindowFrame, LimitsBeyondAllMeasureDoNoHarm)
+{
+	Show();
+	const int warnings = hosted::CountQtWarnings();
+	for (const float limit : {-4e9f, 4e9f, 3e38f}) {
+		fWindow->SetSizeLimits(-fabsf(limit), fabsf(limit), -fabsf(limit), fabsf(limit));
+		fWindow->SetSizeLimits(limit, limit, 0, 1000);
+		fWindow->SetSizeLimits(0, 1000, 0, 1000);
+	}
+	EXPECT_EQ(fWindow->Bounds(), BRect(0, 0, 1000, 199));
+	fWindow->SetSizeLimits(100, 500, 50, 400);
+	fWindow->SetSizeLimits(NAN, NAN, 0, 10);
+	fWindow->SetSizeLimits(0, 10, 0, NAN);
+	test::Settle(fWindow);
+	float maxWidth;
+	float maxHeight;
+	fWindow->GetSizeLimits(nullptr, &maxWidth, nullptr, &maxHeight);
+	EXPECT_EQ(maxWidth, 500);
+	EXPECT_EQ(maxHeight, 400);
+
+	const BRect frame = fWindow->Frame();
+	fWindow->MoveTo(NAN, 3);
+	fWindow->ResizeTo(NAN, 300);
+	EXPECT_EQ(fWindow->Frame(), frame);
+	fWindow->ResizeTo(3e38f, -3e38f);
+	fWindow->MoveTo(3e38f, -3e38f);
+	EXPECT_EQ(fWindow->Bounds(), BRect(0, 0, 500, 50));
+	fWindow->MoveTo(frame.LeftTop());
+	test::Settle(fWindow);
+	EXPECT_EQ(fWindow->Frame().LeftTop(), frame.LeftTop());
+	EXPECT_EQ(hosted::CountQtWarnings(), warnings);
+}
+
+
+TEST_F(WindowFrame, NonsenseAtConstructionIsPutRight)
+{
+	const int warnings = hosted::CountQtWarnings();
+	for (const float bad : {NAN, INFINITY, -INFINITY, 3e38f, -3e38f}) {
+		for (const BRect frame : {BRect(bad, 10, 100, 100), BRect(10, 10, bad, 100),
+				 BRect(10, bad, 100, bad), BRect(bad, bad, bad, bad)}) {
+			LoggingWindow* const window = new LoggingWindow(frame, fLog);
+			window->Show();
+			test::Settle(window);
+			for (const float edge : {window->Frame().left, window->Frame().bottom})
+				EXPECT_LE(fabsf(edge), 2000000);
+			test::CloseWindow(window);
+		}
+	}
+	EXPECT_EQ(hosted::CountQtWarnings(), warnings);
 }
 
 

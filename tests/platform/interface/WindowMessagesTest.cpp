@@ -160,6 +160,49 @@ TEST_F(WindowMessages, TheFlagQuitsTheApplicationWithTheWindow)
 }
 
 
+TEST_F(WindowMessages, OnlyViewsThatWantThemGetFrameEvents)
+{
+	class FrameView : public BView {
+	public:
+		FrameView(const char* name, Log& log, uint32 flags)
+			:
+			BView(BRect(0, 0, 49, 49), name, B_FOLLOW_NONE, flags),
+			fLog(log)
+		{
+		}
+
+		void FrameMoved(BPoint where) override { _Add("moved", where.x, where.y); }
+		void FrameResized(float width, float height) override { _Add("resized", width, height); }
+
+	private:
+		void _Add(const char* what, float first, float second)
+		{
+			fLog.Add(std::string(Name()) + " " + what + " " + std::to_string(int(first)) + " "
+				+ std::to_string(int(second)));
+		}
+
+		Log& fLog;
+	};
+
+	Log log;
+	FrameView* const told = new FrameView("told", log, B_WILL_DRAW | B_FRAME_EVENTS);
+	FrameView* const silent = new FrameView("silent", log, B_WILL_DRAW);
+	{
+		BAutolock lock(fWindow);
+		for (FrameView* view : {told, silent}) {
+			fWindow->AddChild(view);
+			view->MoveTo(7, 8);
+			view->ResizeTo(30, 40);
+			EXPECT_EQ(view->Frame(), BRect(7, 8, 37, 48));
+		}
+		// They come later, as messages.
+		EXPECT_TRUE(log.Lines().empty());
+	}
+	test::Settle(fWindow);
+	EXPECT_EQ(log.Lines(), (std::vector<std::string>{"told moved 7 8", "told resized 30 40"}));
+}
+
+
 // What only the desktop may say: that the user has moved the window, pressed a key or a button.
 TEST_F(WindowMessages, OtherProgramsAreNotTheDesktop)
 {

@@ -260,6 +260,22 @@ TEST_F(AlbumFolder, TakenTitleJoinsTheList)
 }
 
 
+TEST_F(AlbumFolder, TitlesAddedMeanwhileLeaveTheAlbumShown)
+{
+	ShowAlbum();
+	const std::string path = MakeTitle("own/3.mp3");
+	std::string output = Do(MF_ADD, path);
+	EXPECT_TRUE(contains(output, " add to mflist\n"));
+	EXPECT_FALSE(contains(output, "ChildsFromList"));
+	EXPECT_EQ(Settings().last_top_media, 3);
+	output = Do(MF_ADD, path);
+	EXPECT_TRUE(contains(output, " reLC 0  - se 2\n"));
+	EXPECT_EQ(Settings().last_top_media, 2);
+	EXPECT_EQ(Window().fListView->centeredIndex, 0);
+	EXPECT_EQ(MxView::MedList, Window().axflist);
+}
+
+
 TEST_F(AlbumFolder, NothingIsTakenWithoutAFolderOrATitle)
 {
 	Window();

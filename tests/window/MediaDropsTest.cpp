@@ -1,5 +1,6 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
 #include <chrono>
+#include <utility>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -7,6 +8,7 @@
 #include <GraphicsDefs.h>
 #include <List.h>
 #include <Node.h>
+#include <StringView.h>
 #include <TypeConstants.h>
 
 #include "listview/MxView.h"
@@ -191,8 +193,16 @@ TEST_F(MediaDrops, PlaylistReplacesTheListAndEndsTheDrop)
 	Window();
 	Do(MF_DEC);
 	const std::string output = DropFiles({list, MakeTitle("1.mp3")});
-	EXPECT_TRUE(contains(output, "open a (Soundplay)-Playlist\n"));
+	EXPECT_EQ(output.find("open a (Soundplay)-Playlist\nDoWithMediaFiles [1 proc]\t delete mflist\n"
+						  " oops NO mflist\nDoWithMediaFiles [0 proc]\t build mflist\n"
+						  "DoWithMediaFiles [4 proc]\tListStyleWithFile 0\n ::CheckFolderImages \n"
+						  " mflist has 2 items\nadd Bitmap: "
+				  + (fFolder / "lists")
+				  + "\n folderlist has 2 items\nDoWithMediaFiles [8 proc]\t-MF_UPDATE\n"),
+		0u)
+		<< output;
 	EXPECT_EQ(List(), (Paths{"/music/new.mp3", fFolder / "lists/near.mp3"}));
+	EXPECT_EQ(Folders(), (Paths{"/music", fFolder / "lists"}));
 	EXPECT_TRUE(Window().fForeignListStyle);
 	EXPECT_EQ(Window().fPlaylistPath, list.c_str());
 	EXPECT_EQ(MxView::MedList, Window().mflist);
@@ -227,7 +237,10 @@ TEST_F(MediaDrops, OtherFileAddsItsFolderEachTime)
 	const std::string output = DropFiles({text});
 	EXPECT_TRUE(contains(output, ".. ohh anything dragged \n"));
 	EXPECT_TRUE(contains(output, text + "\n\n.. Folder added\n"));
-	DropFiles({text});
+	// The list stays, though the folder has titles.
+	MakeTitle("album/1.mp3");
+	EXPECT_TRUE(contains(DropFiles({text}), "no valid folder...  back to the default-List\n"));
+	EXPECT_FALSE(Window().fFolderShown);
 	EXPECT_EQ(Folders(), (Paths{fFolder / "album", fFolder / "album"}));
 	EXPECT_TRUE(List().empty());
 }
@@ -257,6 +270,45 @@ TEST_F(MediaDrops, WithoutAddingTheRemoteTypeIsRemoved)
 	EXPECT_TRUE(contains(test::OutputOf([&] { window.DraggedMediaFiles(&message, false); }),
 		"Unknown error remove KORU_TYPE: "));
 	EXPECT_TRUE(List().empty());
+}
+
+
+TEST_F(MediaDrops, WithoutAListNothingIsAddedOrReplaced)
+{
+	const std::string title = MakeTitle("1.mp3");
+	const std::string list = fFolder.Write("mine.m3u", title + "\n");
+	Do(MF_DELETE);
+	EXPECT_EQ(DropFiles({title}), "+mt10:  '" + title + "' \n");
+	EXPECT_EQ(DropFiles({list}), "open a (Soundplay)-Playlist\n");
+	EXPECT_EQ(Window().mflist, nullptr);
+	EXPECT_EQ(Window().fPlaylistPath, PlaylistPath().c_str());
+}
+
+
+TEST_F(MediaDrops, EachNewFolderIsShownInTheInformationWindow)
+{
+	MEDIA_Window& window = Window();
+	window.fInfoWindow = ShowNextWindow(&window);
+	ASSERT_NE(window.fInfoText, nullptr);
+	Do(MF_ADD, "/b/1.mp3");
+	Do(MF_ADD, "/a/2.mp3");
+	Do(MF_ADD, "/b/3.mp3");
+	window.CheckFolderImages();
+	ASSERT_TRUE(window.fInfoWindow->Lock());
+	EXPECT_STREQ(window.fInfoText->Text(), "/a");
+	window.fInfoWindow->Quit();
+	window.fInfoWindow = nullptr;
+	window.fInfoText = nullptr;
+}
+
+
+TEST_F(MediaDrops, WithoutFoldersThereIsNothingToCheck)
+{
+	BList* folders = nullptr;
+	std::swap(Window().fFolderList, folders);
+	const std::string output = test::OutputOf([this] { Window().CheckFolderImages(); });
+	std::swap(Window().fFolderList, folders);
+	EXPECT_EQ(output, " ::CheckFolderImages \n no folderlist \n");
 }
 
 

@@ -48,6 +48,7 @@ TEST_F(MediaFileList, BuildAndDelete)
 {
 	EXPECT_EQ(Do(MF_DELETE), "DoWithMediaFiles [1 proc]\t delete mflist\n oops NO mflist\n");
 	EXPECT_EQ(Window().mflist, nullptr);
+	EXPECT_EQ(MxView::MedList, nullptr);
 	EXPECT_EQ(Do(MF_ADD, "/music/a.mp3"), "DoWithMediaFiles [2 proc]\t oops NO mflist\n");
 	EXPECT_EQ(Do(MF_BUILD), "DoWithMediaFiles [0 proc]\t build mflist\n");
 	EXPECT_NE(Window().mflist, nullptr);
@@ -78,9 +79,12 @@ TEST_F(MediaFileList, ListedTitleIsPointedAt)
 	WritePlaylist({"/music/a.mp3", "/music/b.mp3"});
 	Window();
 	const std::string output = Do(MF_ADD, "/music/b.mp3");
-	EXPECT_TRUE(contains(output, "Allways in List:\n/music/b.mp3"));
-	EXPECT_TRUE(contains(output, " reLC 0  - se 1\n"));
+	EXPECT_EQ(output.find("DoWithMediaFiles [2 proc]\t-MF_ADD\nwill add: /music/b.mp3\n"
+						  "1 |Allways in List:\n/music/b.mp3\n reLC 0  - se 1\n"),
+		0u)
+		<< output;
 	EXPECT_TRUE(contains(output, "-MF_ADD return\n"));
+	EXPECT_EQ(Window().fListView->centeredIndex, 1);
 	EXPECT_EQ(List().size(), 2u);
 	EXPECT_EQ(Settings().last_top_media, 1);
 	EXPECT_FALSE(Window().fListChanged);

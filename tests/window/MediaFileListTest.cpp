@@ -107,9 +107,11 @@ TEST_F(MediaFileList, LoadAppendsAndClearsTheMark)
 {
 	WritePlaylist({"file:///music/a.mp3"});
 	Window().fListChanged = true;
+	Window().fListView->listChanged = true;
 	EXPECT_EQ(Do(MF_LOAD), "DoWithMediaFiles [4 proc]\tListStyleWithFile 1\n");
 	EXPECT_EQ(List(), (Paths{"/music/a.mp3", "/music/a.mp3"}));
 	EXPECT_FALSE(Window().fListChanged);
+	EXPECT_FALSE(Window().fListView->listChanged);
 	EXPECT_EQ(MxView::PlayListFile, &Window().fPlaylistPath);
 }
 
@@ -139,11 +141,13 @@ TEST_F(MediaFileList, ChangedListIsSaved)
 	Window();
 	EXPECT_EQ(List(), (Paths{"/music/a.mp3", "/music/b.mp3"}));
 	Do(MF_DEC);
+	Window().fListView->listChanged = true;
 	EXPECT_TRUE(contains(Do(MF_SAVE),
 		" MP-Style, saving with 'file://'\n save mflist\n mflist has 2 items\n"
 		" Write Attribute 'x-playlist'\n save mflist end\n"));
 	EXPECT_EQ(test::ReadFile(PlaylistPath()), "file:///music/a.mp3\nfile:///music/b.mp3\n");
 	EXPECT_FALSE(Window().fListChanged);
+	EXPECT_FALSE(Window().fListView->listChanged);
 }
 
 
@@ -157,6 +161,7 @@ TEST_F(MediaFileList, FailedSaveIsToldAndTriedAgain)
 	EXPECT_TRUE(test::ClickDialogButton("OK"));
 	EXPECT_TRUE(test::WaitForNoDialog());
 	EXPECT_TRUE(Window().fListChanged);
+	EXPECT_TRUE(Window().fListView->listChanged);
 
 	rmdir(PlaylistPath().c_str());
 	Do(MF_SAVE);
@@ -208,6 +213,8 @@ TEST_F(MediaFileList, RemoveTakesTheEntryOut)
 	EXPECT_TRUE(contains(Do(MF_REMOVE, "", 0), "-MF_REMOVE\n DeleteX 0 '/music/a.mp3'\n"));
 	EXPECT_EQ(List(), Paths{"/music/b.mp3"});
 	EXPECT_TRUE(Window().fListChanged);
+	EXPECT_TRUE(Window().fListView->listChanged);
+	EXPECT_EQ(Window().fListView->CountChildren(), 1);
 }
 
 
@@ -241,6 +248,18 @@ TEST_F(MediaFileList, OpenFolderHandsTheParentToTheFileManager)
 		std::string("[open][") + kFileManager + " '" + folder + "' &]\n"));
 	EXPECT_EQ(Opened(1), folder + "\n");
 	EXPECT_EQ(Do(MF_OFOLD, "", 1), "DoWithMediaFiles [9 proc]\t-MF_OFOLD\n");
+}
+
+
+TEST_F(MediaFileList, FolderThatIsGoneIsToldWhenItIsOpened)
+{
+	WritePlaylist({fFolder / "gone/a.mp3"});
+	const std::string text = (fFolder / "gone") + "\n ..File not found :(";
+	EXPECT_TRUE(contains(Do(MF_OFOLD, "", 0), "[open][" + text + "]\n"));
+	ASSERT_TRUE(test::WaitForDialog());
+	EXPECT_EQ(test::DialogText(), text);
+	EXPECT_TRUE(test::ClickDialogButton("OK"));
+	EXPECT_TRUE(test::WaitForNoDialog());
 }
 
 
@@ -288,6 +307,8 @@ TEST_F(MediaFileList, CleanNameRenamesTheFile)
 	EXPECT_EQ(List(), Paths{fFolder / "album/it*s *x*.mp3"});
 	EXPECT_EQ(access((fFolder / "album/it*s *x*.mp3").c_str(), F_OK), 0);
 	EXPECT_TRUE(Window().fListChanged);
+	EXPECT_TRUE(Window().fListView->listChanged);
+	EXPECT_TRUE(contains(output, "ChildsFromList"));
 	EXPECT_TRUE(contains(Do(MF_RBC, "", 7), " RemoveBadChars 7 >> entry not found\n"));
 }
 

@@ -8,7 +8,10 @@ import unittest
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 from program import Program  # noqa: E402
-from session import Session, as_ordinary_user, make_title  # noqa: E402
+from session import Session, as_ordinary_user, make_title, wait_for  # noqa: E402
+
+# A user of no name and no home folder.
+STRANGER = ["unshare", "--user", "--map-user=54321"]
 
 
 class Hardship(unittest.TestCase):
@@ -57,6 +60,27 @@ class Hardship(unittest.TestCase):
 			self.assertEqual(program.close(limit=60), 0)
 			with open(playlist, encoding="utf-8") as file:
 				self.assertEqual(file.read(), lines + path + "\n")
+
+	@unittest.skipIf(subprocess.run(STRANGER + ["true"], stderr=subprocess.DEVNULL).returncode != 0,
+		"nobody can be a user whom the system does not know")
+	def test_without_any_home_the_list_is_where_haiku_has_it(self):
+		environment = {"PATH": os.environ["PATH"], "QT_QPA_PLATFORM": "offscreen"}
+		with tempfile.TemporaryFile("w+") as output:
+			process = subprocess.Popen(STRANGER + ["stdbuf", "-oL", os.environ["VINYLOH"]],
+				env=environment, stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT)
+
+			def text():
+				output.seek(0)
+				return output.read()
+			try:
+				wait_for(lambda: " stop.. " in text(), "the window's pulse")
+				process.terminate()
+				self.assertEqual(process.wait(15), 0)
+			finally:
+				process.kill()
+				process.wait()
+			self.assertIn(" oops-> better /boot/home \n"
+				"U_playlist_PATH    : /boot/home/_koru_media_list (", text())
 
 	def test_without_a_home_folder_it_opens_and_closes(self):
 		with Session() as session:

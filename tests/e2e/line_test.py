@@ -50,6 +50,9 @@ class Line(unittest.TestCase):
 		with open(calls, encoding="utf-8") as file:
 			self.assertEqual(file.read().count("member=Quit"), 1)
 		self.assertIn(" 'application/x-vnd.videolan-vlc'  STOP", program.text())
+		# The window is told who comes and goes.
+		for notice in ["BRAS", "BRAQ"]:
+			program.wait_for_text(f"##GetLastRosterMessenger()  '{notice}'")
 		keep = os.environ.get("SCREENSHOTS")
 		if keep:
 			session.screenshot(os.path.join(keep, "line.png"))

@@ -4,9 +4,11 @@
 
 #include <string.h>
 
+#include <Autolock.h>
 #include <Font.h>
 #include <InterfaceDefs.h>
 #include <List.h>
+#include <MessageQueue.h>
 #include <StringView.h>
 
 #include "listview/MxView.h"
@@ -59,6 +61,7 @@ TEST_F(MediaWindow, StartsWithTheKeptFrameAndState)
 	EXPECT_EQ(Window().Frame(), BRect(30, 50, 730, 500));
 	EXPECT_EQ(Window().Look(), B_FLOATING_WINDOW_LOOK);
 	EXPECT_EQ(Window().Feel(), B_FLOATING_ALL_WINDOW_FEEL);
+	EXPECT_NE(Window().Flags() & 0x20000000, 0u);
 	EXPECT_EQ(Window().PulseRate(), 2000000);
 	EXPECT_EQ(Window().fSpareFloat, 114);
 	EXPECT_EQ(Window().fListView->fFirstSpan, 20000000);
@@ -74,6 +77,27 @@ TEST_F(MediaWindow, StartsWithTheKeptFrameAndState)
 	EXPECT_EQ(Window().fInfoText, nullptr);
 	EXPECT_EQ(MxView::MedList, Window().mflist);
 	EXPECT_EQ(MxView::ImgList, Window().fFolderList);
+	const MxView& list = *Window().fListView;
+	EXPECT_EQ(list.Window(), &Window());
+	EXPECT_STREQ(list.Name(), "MxView");
+	EXPECT_EQ(list.Frame(), Window().Bounds());
+	EXPECT_EQ(list.ResizingMode(), static_cast<uint32>(B_FOLLOW_ALL_SIDES));
+	EXPECT_NE(list.Flags() & B_WILL_DRAW, 0u);
+	EXPECT_NE(list.Flags() & B_PULSE_NEEDED, 0u);
+}
+
+
+TEST_F(MediaWindow, InformationWindowGoesAfterTheStart)
+{
+	Window();
+	EXPECT_TRUE(test::WaitFor([] {
+		for (int32 index = 0; index < be_app->CountWindows(); index++) {
+			const BWindow* const window = be_app->WindowAt(index);
+			if (window != nullptr && strcmp(window->Title(), " WYN Init-Win ") == 0)
+				return false;
+		}
+		return true;
+	}));
 }
 
 
@@ -137,7 +161,8 @@ TEST_F(MediaWindow, CloseTellsTheApplication)
 		" delete mflist\n oops NO mflist\n delete axflist\n delete trList\n"))
 		<< output;
 	EXPECT_TRUE(test::WaitFor([] { return test::TheApplication().CountReceived('irmi') == 1; }));
-	EXPECT_GE(test::TheApplication().CountReceived('MW_Q'), 1);
+	// The list view has said so, too.
+	EXPECT_TRUE(test::WaitFor([] { return test::TheApplication().CountReceived('MW_Q') == 2; }));
 	EXPECT_EQ(MxView::MedList, nullptr);
 	EXPECT_EQ(MxView::ImgList, nullptr);
 }
@@ -205,6 +230,19 @@ TEST_F(MediaWindow, PastBothEndsTheListStartsAgain)
 }
 
 
+TEST_F(MediaWindow, MissingTitleIsCenteredWithoutAnAlert)
+{
+	WritePlaylist({MakeTitle("1.mp3"), "/nowhere/2.mp3"});
+	EXPECT_TRUE(contains(Play(1), "[open][/nowhere/2.mp3\n ..File not found :(]\n"));
+	EXPECT_EQ(Window().fListView->centeredIndex, 1);
+	// Whatever had been opened would still be there after this one.
+	Send(B_ABOUT_REQUESTED);
+	ASSERT_TRUE(test::WaitForDialog());
+	EXPECT_TRUE(test::ClickDialogButton("OK"));
+	EXPECT_TRUE(test::WaitForNoDialog());
+}
+
+
 TEST_F(MediaWindow, PlayWithoutANumberIsPrinted)
 {
 	WritePlaylist({MakeTitle("1.mp3")});
@@ -246,6 +284,21 @@ TEST_F(MediaWindow, TitleTabIsHiddenAndShown)
 	Send('MWsT');
 	EXPECT_FALSE(Settings().window_mtab);
 	EXPECT_EQ(Window().Look(), B_FLOATING_WINDOW_LOOK);
+	// Of any look that has them, the three bits are taken.
+	Window().SetLook(B_BORDERED_WINDOW_LOOK);
+	Send('MWhT');
+	EXPECT_EQ(Window().Look(), 4);
+}
+
+
+TEST_F(MediaWindow, CloseIsToldBeforeTheWindowEnds)
+{
+	Window();
+	test::TheApplication().ForgetReceived();
+	EXPECT_EQ(Send('MW_C'), "");
+	EXPECT_TRUE(test::WaitFor([] { return test::TheApplication().CountReceived('MW_Q') == 1; }));
+	const BAutolock lock(&Window());
+	EXPECT_NE(Window().MessageQueue()->FindMessage(B_QUIT_REQUESTED, 0), nullptr);
 }
 
 
@@ -372,6 +425,17 @@ TEST_F(MediaWindow, RightControlShowsTheState)
 								 "ContPTime :  CalcContinousPlaytime:"),
 		0u)
 		<< Send(message);
+
+	Window().fForeignListStyle = true;
+	MxView::SingleAlbum = true;
+	EXPECT_TRUE(contains(Send(message),
+		"   AlienList-Style : 1\nListStyleWithFile  : 0\nFolderlist : 1|0\n"));
+	Window().fForeignListStyle = false;
+	Window().fListStyleWithFile = true;
+	MxView::SingleAlbum = false;
+	Window().fFolderShown = true;
+	EXPECT_TRUE(contains(Send(message),
+		"   AlienList-Style : 0\nListStyleWithFile  : 1\nFolderlist : 0|1\n"));
 }
 
 
@@ -386,6 +450,8 @@ TEST_F(MediaWindow, PulseIsSetInHundredths)
 	EXPECT_EQ(Window().PulseRate(), 0);
 	Window().NextInBigtime(NAN);
 	EXPECT_EQ(Window().PulseRate(), 0);
+	Window().NextInBigtime(INFINITY);
+	EXPECT_GT(Window().PulseRate(), 1000000000);
 }
 
 

@@ -75,9 +75,12 @@ using Paths = std::vector<std::string>;
 
 TEST_F(PlaylistFileTest, CommentsAndShortLinesAreNoTitles)
 {
-	EXPECT_EQ(Read("#EXTM3U\n;note\nx\nfile:///music/a.mp3\n/music/b.mp3\n"),
+	EXPECT_EQ(Read("#EXTM3U\n#/music/x.mp3\n;/music/y.mp3\nx\nfile:///music/a.mp3\n/music/b.mp3\n"),
 		(Paths{"/music/a.mp3", "/music/b.mp3"}));
 	EXPECT_TRUE(fWithPrefix);
+	// Each file has its own style.
+	EXPECT_EQ(Read("/music/c.mp3\n"), Paths{"/music/c.mp3"});
+	EXPECT_FALSE(fWithPrefix);
 }
 
 
@@ -141,6 +144,7 @@ TEST_F(PlaylistFileTest, PathsWithDotsAreTidied)
 	const std::string list = fFolder.Write("lists/list", "../album//song.mp3\n./x/../gone.mp3\n");
 	EXPECT_EQ(ReadFrom(list), (Paths{fFolder / "album/song.mp3", fFolder / "lists/gone.mp3"}));
 	EXPECT_EQ(Read("/nowhere//at/all/../a.mp3\n"), (Paths{"/nowhere/at/a.mp3"}));
+	EXPECT_EQ(Read("/nowhere/../../../nowhere/a.mp3\n"), (Paths{"/nowhere/a.mp3"}));
 }
 
 
@@ -186,6 +190,8 @@ TEST_F(PlaylistFileTest, MissingFileAndFolderCannotBeRead)
 	const std::string pipe = fFolder / "pipe";
 	ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
 	EXPECT_FALSE(ReadPlaylist(pipe.c_str(), &fList, &fWithPrefix));
+	// A file whose reading fails from its first byte on.
+	EXPECT_FALSE(ReadPlaylist("/proc/self/mem", &fList, &fWithPrefix));
 	EXPECT_TRUE(fList.IsEmpty());
 }
 
@@ -338,13 +344,31 @@ TEST_F(PlaylistFileTest, FullDiskLeavesTheOldFile)
 }
 
 
-TEST_F(PlaylistFileTest, FullDeviceIsAFailure)
+TEST_F(PlaylistFileTest, DeviceIsWrittenItselfAndTellsThatItIsFull)
 {
-	const std::string link = fFolder / "full";
-	ASSERT_EQ(symlink("/dev/full", link.c_str()), 0);
+	ASSERT_EQ(symlink("/dev/null", (fFolder / "null").c_str()), 0);
+	ASSERT_EQ(symlink("/dev/full", (fFolder / "full").c_str()), 0);
+	chmod(fFolder.Path().c_str(), 0755);
 	Fill({"/music/a.mp3"});
-	EXPECT_FALSE(WritePlaylist(link.c_str(), fList, false));
-	EXPECT_TRUE(std::filesystem::exists("/dev/full"));
+	{
+		// The superuser could put a file in the device's place.
+		const test::Unprivileged unprivileged;
+		ASSERT_TRUE(unprivileged.IsDone());
+		EXPECT_TRUE(WritePlaylist((fFolder / "null").c_str(), fList, false));
+		EXPECT_FALSE(WritePlaylist((fFolder / "full").c_str(), fList, false));
+	}
+	EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+	EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
+}
+
+
+TEST_F(PlaylistFileTest, PipeThatNobodyReadsIsNotWaitedFor)
+{
+	const std::string pipe = fFolder / "pipe";
+	ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+	Fill({"/music/a.mp3"});
+	EXPECT_FALSE(WritePlaylist(pipe.c_str(), fList, false));
+	EXPECT_TRUE(std::filesystem::is_fifo(pipe));
 }
 
 

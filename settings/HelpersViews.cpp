@@ -3,7 +3,6 @@
 #include "settings/Helpers.h"
 
 #include <stdio.h>
-#include <string.h>
 
 #include <Box.h>
 #include <Button.h>
@@ -32,13 +31,11 @@ HasMsgColor(BMessage* message, rgb_color deflt)
 {
 	const void* data;
 	ssize_t size;
-	rgb_color color;
 	if (message->FindData("RGBColor", B_RGB_COLOR_TYPE, &data, &size) == B_OK
-		&& size >= static_cast<ssize_t>(sizeof(color))) {
-		memcpy(&color, data, sizeof(color));
-		return color;
-	}
+		&& size >= static_cast<ssize_t>(sizeof(rgb_color)))
+		return *static_cast<const rgb_color*>(data);
 
+	rgb_color color;
 	entry_ref ref;
 	if (message->FindRef("refs", &ref) == B_OK) {
 		const BNode node(&ref);

@@ -43,6 +43,7 @@ public:
 	static Prefs* mPrefs;
 	// An album folder's titles are shown instead of the media file list.
 	static bool SepListSelected;
+	// Each tile sets it to the largest height of a tile in pixels; nothing reads it.
 	static float ehoehe;
 	// Numbers of the tile clicked last, and of the one that plays next.
 	static int32 IsSelected;

@@ -43,15 +43,23 @@ public:
 	virtual void ListWriteAttribute();
 	// Makes all tiles anew; unless quiet, shows the progress and starts timing the playing title.
 	virtual void ChildsFromList(bool quiet);
+	// Shows the context menu, which is built anew after each click.
 	virtual void AddWPopMenu();
+	// Does what a key means: "key" int32 of the keyboard, or "korukey" int32 of a remote control.
 	virtual void KeyEvents(BMessage* message);
 	// Lays the tiles out around an entry; startPlay begins to time it, a step other than 0 moves
 	// the next-mark by that much from the entry.
 	virtual void CenterMediaFile(long index, bool startPlay, long step);
+	// A hook; does nothing.
 	virtual void EraseView(BRect rect);
+	// Draws a notice over the grid that the view is busy, and with redraw the whole view again.
 	virtual void DrawProgressCalc(bool redraw);
+	// Draws an album's cover large below the grid if there is room, with a ring if its titles are
+	// shown.
 	virtual void ShowToppedAlbum(long image);
+	// Prints the minutes for which titles follow each other by themselves, from the next one on.
 	virtual void CalcContinousPlaytime();
+	// Draws the glyph of one of the six buttons, and takes its frame as the place to click.
 	virtual void PlyBut(long button, BRect frame);
 	// Takes the language that another copy of the program has chosen, and shows it.
 	void FollowLanguage(const BMessage& message);

@@ -20,15 +20,18 @@ public:
 	KVLabel(const KVLabel&) = delete;
 	KVLabel& operator=(const KVLabel&) = delete;
 
+	// Deletes all texts.
 	virtual void ClearMirrorList();
 	// Writes the texts without a translation to a file in the user's home folder.
 	virtual void ExpMissingStr();
+	// Deletes the process's catalogue; nothing of it may be touched afterwards.
 	virtual void DeleteMe();
 	virtual void LoadLangFile(const char* path);
 	virtual void PrintToStream();
 	// Takes the place of all texts.
 	virtual void MirrorList(const char* const* list);
 	virtual void AddToMirrorList(const char* const* list);
+	// Prints the texts of a table.
 	virtual void listLabel(const char* const* list);
 
 	// "-nf-" above the last number, null below 0. The table is not looked at.

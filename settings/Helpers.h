@@ -65,8 +65,14 @@ int hex2int(const char* text);
 */
 char* long2asc(unsigned long code);
 
+// Copies the attribute "IR!OWN_FILE" to "KORU_TYPE", if the file has it.
 void ChangeKoruFiletype(BNode node);
+
+// Prints the version that a program carries, and writes the restart script.
 void GetAnyAppVersion(const char* path);
+
+// Writes the script that restarts the input server and the companion program; with run, the file
+// manager is asked to open it.
 void MakeRestartScript(bool run);
 
 #endif // HELPERS_H

@@ -5,6 +5,7 @@
 
 #include <Message.h>
 #include <Messenger.h>
+#include <OS.h>
 #include <Rect.h>
 
 #include "window/MediaWindow.h"

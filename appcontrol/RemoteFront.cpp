@@ -8,7 +8,10 @@
 #include <AppDefs.h>
 #include <InterfaceDefs.h>
 #include <Message.h>
+#include <OS.h>
 #include <Roster.h>
+#include <String.h>
+#include <TypeConstants.h>
 
 #include "appcontrol/RemoteApplications.h"
 #include "appcontrol/RemoteKeys.h"

@@ -6,8 +6,10 @@
 #include <AppDefs.h>
 #include <Application.h>
 #include <Messenger.h>
+#include <OS.h>
 #include <Roster.h>
 #include <String.h>
+#include <TypeConstants.h>
 
 #include "appcontrol/RemoteCommands.h"
 #include "appcontrol/RemotePlayers.h"
@@ -80,7 +82,8 @@ KeyPressFor(long key, KeyPress* press)
 		{
 			static const char* const kDigits[] = {"1", "2", "3", "4"};
 			const long number = key - kRemoteNumber1;
-			*press = {kKey1 + static_cast<int32>(number), kDigits[number][0], kDigits[number], 0};
+			*press = {kKey1 + static_cast<int32>(number), static_cast<int8>(kDigits[number][0]),
+				kDigits[number], 0};
 			return true;
 		}
 		default:

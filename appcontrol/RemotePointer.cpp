@@ -8,9 +8,14 @@
 #include <AppDefs.h>
 #include <InterfaceDefs.h>
 #include <Message.h>
+#include <Messenger.h>
+#include <OS.h>
+#include <Rect.h>
 #include <Roster.h>
 #include <Screen.h>
+#include <String.h>
 #include <StringView.h>
+#include <View.h>
 #include <Window.h>
 #include <WindowScreen.h>
 

@@ -8,7 +8,9 @@
 #include <string.h>
 
 #include <Button.h>
+#include <MediaNode.h>
 #include <MediaRoster.h>
+#include <OS.h>
 #include <ParameterWeb.h>
 
 #include "appcontrol/RemoteViews.h"

@@ -15,6 +15,7 @@
 #include <Path.h>
 #include <Query.h>
 #include <Roster.h>
+#include <StorageDefs.h>
 #include <TypeConstants.h>
 #include <Volume.h>
 #include <VolumeRoster.h>

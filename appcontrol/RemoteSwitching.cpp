@@ -10,6 +10,7 @@
 #include <AppDefs.h>
 #include <List.h>
 #include <Message.h>
+#include <Roster.h>
 #include <StringView.h>
 #include <TextView.h>
 

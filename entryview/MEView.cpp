@@ -9,9 +9,11 @@
 #include <string.h>
 
 #include <Bitmap.h>
+#include <Font.h>
 #include <Node.h>
 #include <NodeInfo.h>
 #include <PopUpMenu.h>
+#include <StorageDefs.h>
 #include <TypeConstants.h>
 
 #include "entryview/BuiltInPictures.h"

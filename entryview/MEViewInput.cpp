@@ -4,9 +4,11 @@
 
 #include <stdio.h>
 
+#include <AppDefs.h>
 #include <MenuItem.h>
 #include <Message.h>
 #include <Messenger.h>
+#include <OS.h>
 #include <PopUpMenu.h>
 #include <Window.h>
 

@@ -5,6 +5,7 @@
 #include "listview/MxView.h"
 
 #include <stdio.h>
+#include <string.h>
 #include <string>
 #include <unordered_map>
 

@@ -15,6 +15,7 @@
 #include <Message.h>
 #include <Path.h>
 #include <Roster.h>
+#include <StorageDefs.h>
 
 #include "locale/KVLabel.h"
 #include "locale/LanguageMessages.h"

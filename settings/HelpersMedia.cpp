@@ -11,7 +11,9 @@
 #include <Bitmap.h>
 #include <BitmapStream.h>
 #include <File.h>
+#include <MediaDefs.h>
 #include <MediaFile.h>
+#include <MediaFormats.h>
 #include <MediaTrack.h>
 #include <NodeInfo.h>
 #include <TranslatorFormats.h>

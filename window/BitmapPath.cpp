@@ -7,8 +7,10 @@
 #include <string.h>
 
 #include <Bitmap.h>
+#include <Mime.h>
 #include <Node.h>
 #include <NodeInfo.h>
+#include <Rect.h>
 
 #include "entryview/BuiltInPictures.h"
 #include "settings/Helpers.h"

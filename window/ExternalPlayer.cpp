@@ -9,10 +9,10 @@
 #include <string.h>
 #include <unistd.h>
 
+#include <AppDefs.h>
 #include <File.h>
 #include <List.h>
 #include <Messenger.h>
-#include <Mime.h>
 #include <OS.h>
 #include <Roster.h>
 #include <String.h>

@@ -9,6 +9,8 @@
 #include <Window.h>
 
 class BList;
+class BMessage;
+class BString;
 class BStringView;
 class MxView;
 class Prefs;
@@ -30,7 +32,9 @@ public:
 	// Asks for the notices of applications that start, quit or become active, and ends that.
 	virtual void StartWatching();
 	virtual void StopWatching();
+	// Sets the text that tells what happens at start.
 	virtual void SetBst(BStringView* infoText);
+	// Shows the version.
 	virtual void AboutERequested();
 	// Prints the modifier keys that are held, or, with the right Control key, the play state.
 	virtual void AddOptionalByWinKey(BMessage* message);

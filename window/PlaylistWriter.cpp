@@ -18,6 +18,7 @@
 #include <Node.h>
 #include <NodeInfo.h>
 #include <Path.h>
+#include <StorageDefs.h>
 #include <fs_attr.h>
 
 

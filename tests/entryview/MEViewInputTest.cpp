@@ -55,10 +55,22 @@ private:
 };
 
 
+// Calls the hook for the mouse in the midst of another message.
+constexpr uint32 kPress = 'pres';
+
+
 // Says that the second button is down, without a pointer.
 class PressedTile : public MEView {
 public:
 	using MEView::MEView;
+
+	void MessageReceived(BMessage* message) override
+	{
+		if (message->what == kPress)
+			MouseDown(BPoint(5, 5));
+		else
+			MEView::MessageReceived(message);
+	}
 
 	void AddPopMenu() override { fMenuCount++; }
 
@@ -159,6 +171,12 @@ TEST_F(MEViewInput, OtherButtonsDoNothing)
 // Whatever else calls the hook, its buttons are unknown.
 TEST_F(MEViewInput, PressThatNoMouseMessageCameWithDoesNothing)
 {
+	for (const int32 buttons : {B_PRIMARY_MOUSE_BUTTON, B_SECONDARY_MOUSE_BUTTON}) {
+		BMessage message(kPress);
+		message.AddInt32("buttons", buttons);
+		Send(message);
+	}
+	EXPECT_TRUE(fWindow->Received(kMsgPlayTitle).empty());
 	const BAutolock lock(fWindow);
 	ASSERT_EQ(fWindow->CurrentMessage(), nullptr);
 	fTile->MouseDown(BPoint(5, 5));

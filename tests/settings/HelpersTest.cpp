@@ -287,7 +287,7 @@ TEST(GetLastRosterMessenger, RefusesTheSystemAndItself)
 	for (const auto& [signature, reason] : refused) {
 		BMessage message = notice(B_SOME_APP_QUIT, signature);
 		const std::string output = test::OutputOf(
-			[&] { EXPECT_EQ(GetLastRosterMessenger(&message, nullptr), messenger) << signature; });
+			[&] { EXPECT_EQ(GetLastRosterMessenger(&message, nullptr), messenger); });
 		EXPECT_EQ(output,
 			"##GetLastRosterMessenger()  'BRAQ' LAST | application/x-vnd.first\n ["
 				+ std::string(signature) + "]  NOT STORED | " + reason + "\n");

@@ -34,7 +34,7 @@ enum : int32 {
 	MF_TAKE = 14,
 };
 
-// A number that no album folder has: MF_FOLDER with it goes back to the media file list.
+// Stands for no album folder: MF_FOLDER with it goes back to the media file list.
 inline constexpr int32 kNoFolderNumber = 999;
 
 #endif // ENTRY_MESSAGES_H

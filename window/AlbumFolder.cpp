@@ -28,7 +28,11 @@
 void
 MEDIA_Window::_ShowFolder(int32 number)
 {
-	const BitmapPath* const folder = static_cast<BitmapPath*>(fFolderList->ItemAt(number));
+	// Of a thousand folders one has the number that leads back, which it must do all the same.
+	const BitmapPath* const folder = number != kNoFolderNumber
+		? static_cast<BitmapPath*>(fFolderList->ItemAt(number))
+		:
+		nullptr;
 	if (folder == nullptr)
 		_LeaveFolder();
 	else

@@ -239,6 +239,20 @@ TEST_F(AlbumFolder, LeavingRestoresTheList)
 }
 
 
+TEST_F(AlbumFolder, OfAThousandFoldersNoneIsInTheWayBack)
+{
+	Paths titles;
+	for (int number = 0; number < 1200; number++)
+		titles.push_back("/music/" + std::to_string(number) + "/1.mp3");
+	WritePlaylist(titles);
+	ASSERT_EQ(Window().fFolderList->CountItems(), 1200);
+	ShowAlbum();
+	ASSERT_TRUE(Window().fFolderShown);
+	EXPECT_TRUE(contains(Do(MF_FOLDER, "", 999), "no valid folder...  back to the default-List\n"));
+	EXPECT_FALSE(Window().fFolderShown);
+}
+
+
 TEST_F(AlbumFolder, LeavingTheListItselfResetsThePosition)
 {
 	Window();

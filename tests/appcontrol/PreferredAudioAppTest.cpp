@@ -37,7 +37,8 @@ protected:
 		Prefs::DeleteMe();
 	}
 
-	// Two players of the user's own: one is known, the other's signature differs by its case.
+	// Three players of the user's own: one is known, the next one's signature differs by its case,
+	// and one was thrown away.
 	static void SetUpTestSuite()
 	{
 		sFolder = std::make_unique<test::TempFolder>();
@@ -45,12 +46,16 @@ protected:
 		const std::string unknown = sFolder->Write("unknown-player", "#!/bin/sh\n");
 		chmod(known.c_str(), 0755);
 		chmod(unknown.c_str(), 0755);
+		const std::string trashed = sFolder->Write("Trash/files/trashed-player", "#!/bin/sh\n");
+		chmod(trashed.c_str(), 0755);
 		const std::string folder = std::string(getenv("XDG_CONFIG_HOME")) + "/VinyloH";
 		std::filesystem::create_directories(folder);
 		std::ofstream(folder + "/players.table")
 			<< "player known\n\tsignature application/x-vnd.ClaesL-CLAmp\n\texecutable " << known
 			<< "\n\ttypes audio\nplayer unknown\n\tsignature application/x-vnd.claesl-clamp\n"
-			<< "\texecutable " << unknown << "\n\ttypes audio\n";
+			<< "\texecutable " << unknown << "\n\ttypes audio\nplayer trashed\n"
+			<< "\tsignature application/x-vnd.yT-AudioTagger\n\texecutable " << trashed
+			<< "\n\ttypes audio\n";
 	}
 
 	static void TearDownTestSuite() { sFolder.reset(); }
@@ -96,6 +101,16 @@ TEST_F(AskForPrefAppTest, PlayerWhoseSignatureDiffersInCaseIsUnknown)
 		std::string::npos);
 	EXPECT_NE(output.find(" [unknown] [30]: '" + ((*sFolder) / "unknown-player") + "' [Trouble]\n"),
 		std::string::npos);
+}
+
+
+TEST_F(AskForPrefAppTest, PlayerThatIsNotInstalledIsPrintedAndLeftOut)
+{
+	const std::string output = Fill();
+	EXPECT_EQ(fMenu->FindItem("trashed-player"), nullptr);
+	EXPECT_NE(output.find("[DA_App_F] [not found: 'application/x-vnd.yT-AudioTagger']\n"),
+		std::string::npos)
+		<< output;
 }
 
 

@@ -93,7 +93,11 @@ TEST_F(MxViewDraw, ColorsFollowTheSystem)
 	fView->SetViewColor(1, 2, 3);
 	fView->SetLowColor(1, 2, 3);
 	fView->SetFont(be_bold_font);
+	fView->SetPenSize(5);
+	fView->SetDrawingMode(B_OP_BLEND);
 	Redraw();
+	EXPECT_EQ(fView->PenSize(), 1);
+	EXPECT_EQ(fView->DrawingMode(), B_OP_COPY);
 	EXPECT_EQ(fView->listBackColor, background);
 	EXPECT_EQ(fView->ViewColor(), background);
 	EXPECT_EQ(fView->LowColor(), background);

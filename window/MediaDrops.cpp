@@ -113,6 +113,9 @@ MEDIA_Window::_OpenDroppedPlaylist(const BPath& path)
 	fPlaylistPath = path;
 	DoWithMediaFiles(MF_LOAD, nullptr, -1);
 	MxView::MedList = mflist;
+	// An album that was shown is left, or its titles would play from the new list's tiles.
+	fFolderShown = false;
+	MxView::SingleAlbum = false;
 	snooze(kAroundPlaylistMicros);
 	CheckFolderImages();
 	Unlock();

@@ -290,6 +290,20 @@ TEST_F(AlbumFolder, TitlesAddedMeanwhileLeaveTheAlbumShown)
 }
 
 
+TEST_F(AlbumFolder, DroppedPlaylistIsShownAndPlayedInTheAlbumsPlace)
+{
+	ShowAlbum();
+	const std::string title = MakeTitle("own/3.mp3");
+	Send(Drop({fFolder.Write("mine.m3u", title + "\n")}));
+	EXPECT_EQ(MxView::MedList, Window().mflist);
+	EXPECT_FALSE(Window().fFolderShown);
+	EXPECT_FALSE(MxView::SingleAlbum);
+	EXPECT_EQ(Window().fListView->CountChildren(), 1);
+	Play(0);
+	EXPECT_EQ(Opened(1), title + "\n");
+}
+
+
 TEST_F(AlbumFolder, NothingIsTakenWithoutAFolderOrATitle)
 {
 	Window();

@@ -5,6 +5,8 @@
 
 #include <errno.h>
 #include <fcntl.h>
+#include <stdint.h>
+#include <time.h>
 #include <unistd.h>
 
 
@@ -14,18 +16,43 @@ namespace {
 
 constexpr char kSignalled = 's';
 constexpr char kEnd = 'e';
+// Who ends a program may signal twice: a closed terminal and its shell both send SIGHUP, and
+// timeout(1) signals the program and its group.
+constexpr int64_t kSameEndMillis = 1000;
 
 std::atomic<int> sWriteEnd = -1;
-static_assert(std::atomic<int>::is_always_lock_free, "a signal handler reads it");
+// When each signal came first; 0 for one that did not come.
+std::array<std::atomic<int64_t>, NSIG> sFirstMillis = {};
+static_assert(std::atomic<int>::is_always_lock_free && std::atomic<int64_t>::is_always_lock_free,
+	"a signal handler uses them");
+
+
+int64_t
+now_millis()
+{
+	struct timespec now;
+	clock_gettime(CLOCK_MONOTONIC, &now);
+	return static_cast<int64_t>(now.tv_sec) * 1000 + now.tv_nsec / 1000000 + 1;
+}
 
 
 // Between system calls of any thread: it may do little more than this.
 void
-note_signal(int)
+note_signal(int signal)
 {
 	const int error = errno;
-	if (write(sWriteEnd, &kSignalled, 1) != 1)
-		_exit(1);
+	const int64_t now = now_millis();
+	int64_t first = 0;
+	if (sFirstMillis[static_cast<size_t>(signal)].compare_exchange_strong(first, now)) {
+		if (write(sWriteEnd, &kSignalled, 1) != 1)
+			_exit(1);
+	} else if (now - first > kSameEndMillis) {
+		// Ends the program when this function is left.
+		struct sigaction original = {};
+		original.sa_handler = SIG_DFL;
+		sigaction(signal, &original, nullptr);
+		raise(signal);
+	}
 	errno = error;
 }
 
@@ -46,8 +73,9 @@ QuitSignals::QuitSignals(std::function<void()> onSignal)
 
 	struct sigaction ours = {};
 	ours.sa_handler = &note_signal;
-	ours.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
+	ours.sa_flags = SA_RESTART;
 	for (Handled& handled : fHandled) {
+		sFirstMillis[static_cast<size_t>(handled.signal)] = 0;
 		if (sigaction(handled.signal, nullptr, &handled.before) == 0
 			&& handled.before.sa_handler == SIG_DFL)
 			handled.isOurs = sigaction(handled.signal, &ours, nullptr) == 0;

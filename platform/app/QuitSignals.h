@@ -14,7 +14,7 @@ namespace hosted {
 /*!	While it lives, the signals by which a session or a terminal ends programs call a function, in
 	a thread of its own.
 
-	The same signal once more ends the program at once. What whoever started the program has ignored
+	The same signal more than a second later ends the program at once. What whoever started the program has ignored
 	stays ignored. There is one at a time.
 */
 class QuitSignals {

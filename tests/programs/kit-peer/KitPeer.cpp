@@ -57,7 +57,7 @@ public:
 	bool QuitRequested() override
 	{
 		printf("quit requested\n");
-		return true;
+		return getenv("PEER_STAYS") == nullptr;
 	}
 
 	void MessageReceived(BMessage* message) override

@@ -14,8 +14,8 @@ namespace hosted {
 /*!	While it lives, the signals by which a session or a terminal ends programs call a function, in
 	a thread of its own.
 
-	The same signal more than a second later ends the program at once. What whoever started the program has ignored
-	stays ignored. There is one at a time.
+	The same signal more than a second later ends the program at once. What whoever started the
+   program has ignored stays ignored. There is one at a time.
 */
 class QuitSignals {
 public:

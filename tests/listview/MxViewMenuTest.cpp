@@ -11,6 +11,7 @@
 #include "locale/KVLangMenu.h"
 #include "settings/Prefs.h"
 #include "tests/listview/ListViewFixture.h"
+#include "tests/support/Desktop.h"
 #include "tests/support/Output.h"
 #include "tests/support/Popups.h"
 #include "tests/support/Wait.h"
@@ -142,6 +143,30 @@ TEST_F(MxViewMenu, ViewThatIsNoTileIsOnlyPrinted)
 	const std::string output = test::OutputOf([this] { Open(); });
 	EXPECT_NE(output.find(" not a MEView (2) \n"), std::string::npos);
 	EXPECT_EQ(fView->popMenu->FindItem('MWPT'), nullptr);
+}
+
+
+TEST_F(MxViewMenu, OpensAtThePointer)
+{
+	AddTitles(1, "00:30");
+	MakeView();
+	fWindow->Unlock();
+	fWindow->Show();
+	test::Settle(fWindow);
+	test::Pointer pointer;
+	pointer.x = 130;
+	pointer.y = 90;
+	test::MoveMouse(fWindow, pointer);
+	test::Settle(fWindow);
+	fWindow->Lock();
+	Open();
+	ASSERT_TRUE(test::WaitForMenu());
+	int x;
+	int y;
+	ASSERT_TRUE(test::MenuCorner(&x, &y));
+	EXPECT_EQ(BPoint(x, y), fWindow->Frame().LeftTop() + BPoint(130, 90));
+	test::PressKey(Qt::Key_Escape);
+	EXPECT_TRUE(test::WaitForNoMenu());
 }
 
 

@@ -448,4 +448,8 @@ TEST_F(MxViewPlayback, SumOfPlayTimesEndsAtATitleWithoutOne)
 	EXPECT_EQ(sum(), " CalcContinousPlaytime:\t  ab 4|    20.02 Times \n");
 	fView->nextIndex = 9;
 	EXPECT_EQ(sum(), " CalcContinousPlaytime:\t  ab 9|     0.00 Times \n");
+	// What is no tile is passed over.
+	fView->AddChild(new BView(BRect(0, 0, 1, 1), "other", B_FOLLOW_NONE, 0), Tile(0));
+	fView->nextIndex = 0;
+	EXPECT_EQ(sum(), " CalcContinousPlaytime:\t  ab 0|    33.61 Times \n");
 }

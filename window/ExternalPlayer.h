@@ -5,8 +5,8 @@
 
 /*!	Hands a file to the preferred player, if it is audio and there is one, else to the file manager.
 
-	Blocks for as long as the other application takes to start or to close. alert shows an alert if
-	the file cannot be read.
+	Blocks for 60 ms, and for 400 ms more where a running player was to end first; it does not wait
+	for what is started. alert shows an alert if the file cannot be read.
 */
 void IOpenThisFile(const char* path, bool alert);
 

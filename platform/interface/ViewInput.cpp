@@ -135,7 +135,8 @@ BView::MessageReceived(BMessage* message)
 			frame_resized(*this, *message);
 			break;
 		default:
-			BHandler::MessageReceived(message);
+			if (!_AnswerProperty(message))
+				BHandler::MessageReceived(message);
 			break;
 	}
 }

@@ -59,6 +59,12 @@ void ActivateViews(BView& root, bool active);
 // All views under the root that can be reached with the Tab key, in order.
 std::vector<BView*> NavigableViews(BView& root);
 
+// Scripting. The child that a specifier means, with the specifier taken off the message; null, and
+// the sender is told, if there is none.
+BHandler* ResolveChild(BView& parent, BMessage* message, const BMessage& specifier);
+// The frame in "data". B_BAD_VALUE if it is no place for a view or window.
+status_t FindFrame(const BMessage& message, BRect* frame);
+
 } // namespace hosted
 
 #endif // VIEW_PRIVATE_H

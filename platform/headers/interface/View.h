@@ -92,6 +92,9 @@ public:
 	virtual void AllDetached();
 
 	void MessageReceived(BMessage* message) override;
+	// Other programs may get and set "Frame" and "Hidden", count and name a "View".
+	BHandler* ResolveSpecifier(BMessage* message, int32 index, BMessage* specifier, int32 what,
+		const char* property) override;
 
 	// The tree.
 	void AddChild(BView* child, BView* before = nullptr);
@@ -295,6 +298,9 @@ public:
 private:
 	friend struct hosted::ViewData;
 
+	bool _AnswerProperty(BMessage* message);
+
+private:
 	std::unique_ptr<hosted::ViewData> fData;
 };
 

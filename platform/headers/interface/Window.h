@@ -99,7 +99,8 @@ public:
 	virtual void Show();
 	virtual void Hide();
 	thread_id Run() override;
-	// Other programs may get and set "Active", "Frame", "Hidden" and "Title".
+	// Other programs may get and set "Active", "Feel", "Flags", "Frame", "Hidden", "Look",
+	// "Minimize", "Title" and "Workspaces", count and name a "View".
 	BHandler* ResolveSpecifier(BMessage* message, int32 index, BMessage* specifier, int32 what,
 		const char* property) override;
 

@@ -8,6 +8,7 @@
 
 #include "platform/app/Deadline.h"
 #include "platform/app/Delivery.h"
+#include "platform/app/Threads.h"
 
 
 namespace hosted {
@@ -104,6 +105,23 @@ Registry::HandlerIn(int32 token, const BLooper* looper)
 	if (found == fHandlers.end() || found->second.looper != looper)
 		return nullptr;
 	return found->second.handler;
+}
+
+
+bool
+Registry::AddressOf(int32 token, Address* address)
+{
+	std::lock_guard<std::mutex> lock(fMutex);
+	const auto found = fHandlers.find(token);
+	if (found == fHandlers.end())
+		return false;
+	const auto core = fByLooper.find(found->second.looper);
+	if (core == fByLooper.end())
+		return false;
+	address->team = CurrentTeam();
+	address->port = core->second->port;
+	address->token = token;
+	return true;
 }
 
 

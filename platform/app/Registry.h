@@ -64,6 +64,8 @@ public:
 	void SetLooper(int32 token, BLooper* looper);
 	// The handler of that number if it belongs to the looper.
 	BHandler* HandlerIn(int32 token, const BLooper* looper);
+	// Where the handler of that number is reached; false if it is gone or in no looper.
+	bool AddressOf(int32 token, Address* address);
 
 	// A port below 0 asks for a new one.
 	std::shared_ptr<LooperCore> AddLooper(BLooper* looper, int32 port, int32 token, int32 capacity);

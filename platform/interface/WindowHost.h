@@ -56,12 +56,15 @@ public:
 private:
 	friend class ::BWindow;
 
+	static constexpr int32 kNoTarget = -1;
+
 	struct Shortcut {
 		uint32 key;
 		uint32 modifiers;
 		std::unique_ptr<BMessage> message;
-		// Null for the focus view, or else the window.
-		BHandler* target;
+		// The number of the handler, which may be gone by the time of the key; kNoTarget for the
+		// focus view, or else the window.
+		int32 target;
 	};
 
 	// How often the same place was clicked.

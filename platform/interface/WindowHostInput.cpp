@@ -13,6 +13,9 @@
 #include <Messenger.h>
 #include <View.h>
 
+#include "platform/app/Delivery.h"
+#include "platform/app/HandlerAccess.h"
+#include "platform/app/Registry.h"
 #include "platform/interface/InputFields.h"
 #include "platform/interface/ViewPrivate.h"
 #include "platform/screen/NativeWindow.h"
@@ -308,10 +311,13 @@ WindowHost::_InvokeShortcut(const BMessage& message, uint32 key, uint32 modifier
 			continue;
 		BMessage copy(*shortcut.message);
 		copy.AddInt64("when", message.GetInt64("when", 0));
-		BHandler* target = shortcut.target;
-		if (target == nullptr)
-			target = FocusView(*fRoot);
-		BMessenger(target == nullptr ? fWindow : target).SendMessage(&copy);
+		Address address;
+		if (shortcut.target == kNoTarget) {
+			BView* const focus = FocusView(*fRoot);
+			BMessenger(focus == nullptr ? static_cast<BHandler*>(fWindow) : focus)
+				.SendMessage(&copy);
+		} else if (Registry::Get().AddressOf(shortcut.target, &address))
+			MessengerAccess::Make(address).SendMessage(&copy);
 		return true;
 	}
 	return false;
@@ -325,7 +331,7 @@ WindowHost::_AddShortcut(uint32 key, uint32 modifiers, BMessage* message, BHandl
 	shortcut.key = tolower(key);
 	shortcut.modifiers = (modifiers & kShortcutModifiers) | B_COMMAND_KEY;
 	shortcut.message.reset(message);
-	shortcut.target = target;
+	shortcut.target = target == nullptr ? kNoTarget : HandlerAccess::TokenOf(*target);
 	fShortcuts.push_back(std::move(shortcut));
 }
 

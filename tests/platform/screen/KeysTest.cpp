@@ -376,6 +376,30 @@ TEST_F(Keys, ShortcutsOfTheProgram)
 }
 
 
+TEST_F(Keys, ShortcutOfAHandlerThatIsGoneDoesNothing)
+{
+	LoggingView* const view = new LoggingView(BRect(0, 0, 9, 9), "gone", fViewLog);
+	{
+		BAutolock lock(fWindow);
+		fWindow->AddShortcut('s', 0, new BMessage('save'), view);
+		fWindow->AddChild(view);
+	}
+	const Key letter = {31, Qt::Key_S, QStringLiteral("s"), Qt::AltModifier};
+	Press(letter);
+	EXPECT_EQ(fViewLog.Messages('save').size(), 1u);
+	{
+		BAutolock lock(fWindow);
+		view->RemoveSelf();
+		delete view;
+	}
+	Press(letter);
+	test::Settle(fWindow);
+	EXPECT_EQ(fViewLog.Messages('save').size(), 1u);
+	// The view handed its own on.
+	EXPECT_EQ(fLog.Messages('save').size(), 1u);
+}
+
+
 TEST_F(Keys, EscapeClosesWhereTheFlagSaysSo)
 {
 	fWindow->agreesToQuit = false;

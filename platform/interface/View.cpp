@@ -377,7 +377,7 @@ DetachRoot(BView& root)
 		announce_detached(child);
 		child = next;
 	}
-	for (BView* child = data.firstChild; child != nullptr; child = ViewData::Of(child).next)
+	for (BView* child = data.lastChild; child != nullptr; child = ViewData::Of(child).previous)
 		leave_tree(child);
 	data.tree = nullptr;
 }

@@ -17,8 +17,9 @@ std::atomic<int> sWarnings{0};
 
 // The display thread is not the process's first, windows without a window manager cannot be raised,
 // and the off-screen platform can do neither that nor grab the pointer. A root user, as in a
-// container, has no run-time folder. Old Targa pictures are simply not read.
-constexpr std::array<const char*, 7> kNoise = {
+// container, has no run-time folder. Old Targa pictures are simply not read. A window that is shown
+// again before the display server has confirmed that it was hidden gets its state all the same.
+constexpr std::array<const char*, 8> kNoise = {
 	"QApplication was not created in the main() thread",
 	"This plugin does not support raise()",
 	"This plugin does not support grabbing the keyboard",
@@ -26,6 +27,7 @@ constexpr std::array<const char*, 7> kNoise = {
 	"This plugin does not support setting window opacity",
 	"QStandardPaths: XDG_RUNTIME_DIR not set",
 	"QTgaHandler::canRead()",
+	"setNetWmStateOnUnmappedWindow() called on mapped window",
 };
 
 

@@ -1,5 +1,4 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
-#include <chrono>
 #include <utility>
 
 #include <sys/stat.h>
@@ -147,15 +146,13 @@ TEST_F(MediaDrops, LinksAndDevicesAreSkipped)
 }
 
 
-TEST_F(MediaDrops, ManyFilesAreAddedQuickly)
+TEST_F(MediaDrops, ThreeHundredFilesAreAddedInTheirOrder)
 {
 	Paths titles;
 	for (int number = 0; number < 300; number++)
 		titles.push_back(MakeTitle(
 			"album " + std::to_string(number / 10) + "/" + std::to_string(number) + ".mp3"));
-	const auto begin = std::chrono::steady_clock::now();
 	DropFiles(titles);
-	EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(30));
 	EXPECT_EQ(List(), titles);
 	EXPECT_EQ(Folders().size(), 30u);
 	EXPECT_EQ(Window().fListView->CountChildren(), 300);

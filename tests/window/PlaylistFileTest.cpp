@@ -1,7 +1,6 @@
 // Copyright 2026, The VinyloH Authors. Distributed under the terms of the MIT License.
 #include "window/PlaylistFile.h"
 
-#include <chrono>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -196,18 +195,16 @@ TEST_F(PlaylistFileTest, MissingFileAndFolderCannotBeRead)
 }
 
 
-TEST_F(PlaylistFileTest, AHundredThousandLinesAreReadAndWrittenQuickly)
+TEST_F(PlaylistFileTest, AHundredThousandLinesAreReadAndWritten)
 {
 	std::string contents;
 	for (int number = 0; number < 100000; number++)
 		contents += "/music/album " + std::to_string(number / 12) + "/title "
 			+ std::to_string(number) + ".mp3\n";
-	const auto begin = std::chrono::steady_clock::now();
 	EXPECT_EQ(Read(contents).size(), 100000u);
 	const std::string path = fFolder / "saved";
 	EXPECT_TRUE(WritePlaylist(path.c_str(), fList, false));
 	EXPECT_EQ(test::ReadFile(path), contents);
-	EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(10));
 }
 
 

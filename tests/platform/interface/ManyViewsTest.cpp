@@ -2,8 +2,6 @@
 // Ten thousand views in one parent, most of them parked outside of it.
 #include <View.h>
 
-#include <chrono>
-
 #include "tests/platform/interface/Canvas.h"
 #include "tests/platform/interface/RecordingHost.h"
 
@@ -33,62 +31,36 @@ public:
 
 int32 Tile::sDrawn = 0;
 
-
-// Milliseconds that a step takes. The limits of the tests are far above what it should be, and far
-// below what it is when each view costs a look at all the others.
-double
-milliseconds(const std::function<void()>& step)
-{
-	const auto begin = std::chrono::steady_clock::now();
-	step();
-	const std::chrono::duration<double, std::milli> taken
-		= std::chrono::steady_clock::now() - begin;
-	return taken.count();
-}
-
 } // namespace
 
 
-TEST(ManyViews, CostMilliseconds)
+TEST(ManyViews, OnlyThoseInSightAreDrawn)
 {
 	RecordingHost host(300, 1000);
 	BView* list = new BView(BRect(0, 0, 299, 999), "list", B_FOLLOW_ALL, B_WILL_DRAW);
 	host.root->AddChild(list);
-	EXPECT_LT(milliseconds([&]() {
-		for (int32 index = 0; index < kCount; index++)
-			list->AddChild(new Tile);
-	}),
-		1000);
+	for (int32 index = 0; index < kCount; index++)
+		list->AddChild(new Tile);
 	ASSERT_EQ(list->CountChildren(), kCount);
-
-	EXPECT_LT(milliseconds([&]() {
-		for (int32 index = 0; index < kCount; index++) {
-			const bool isShown = index >= 5000 && index < 5013;
-			list->ChildAt(index)->MoveTo(0, isShown ? (index - 5000) * 60.0f : -100);
-		}
-	}),
-		1000);
+	for (int32 index = 0; index < kCount; index++) {
+		const bool isShown = index >= 5000 && index < 5013;
+		list->ChildAt(index)->MoveTo(0, isShown ? (index - 5000) * 60.0f : -100);
+	}
 
 	Tile::sDrawn = 0;
 	list->Invalidate();
-	EXPECT_LT(milliseconds([&]() { host.Update(); }), 1000);
+	host.Update();
 	EXPECT_EQ(Tile::sDrawn, 13);
 	EXPECT_EQ(host.At(0, 0), 0x000000u);
 	EXPECT_EQ(host.At(0, 55), 0xffffffu);
 
-	// Parked views that are asked to draw paint nothing, quickly.
-	EXPECT_LT(milliseconds([&]() {
-		for (int32 index = 0; index < kCount; index++)
-			list->ChildAt(index)->Draw(list->Bounds());
-	}),
-		1000);
-
-	EXPECT_LT(milliseconds([&]() {
-		while (list->CountChildren() > 0) {
-			BView* child = list->ChildAt(0);
-			child->RemoveSelf();
-			delete child;
-		}
-	}),
-		1000);
+	while (list->CountChildren() > 0) {
+		BView* child = list->ChildAt(0);
+		child->RemoveSelf();
+		delete child;
+	}
+	list->Invalidate();
+	host.Update();
+	EXPECT_EQ(Tile::sDrawn, 13);
+	EXPECT_EQ(host.At(0, 0), 0xffffffu);
 }

@@ -97,34 +97,9 @@ find_running(const std::array<Player, N>& players)
 }
 
 
+// Whether one was started, or runs meanwhile.
 template <size_t N>
 static bool
-is_any_running(const std::array<Player, N>& players)
-{
-	for (const Player& player : players) {
-		if (be_roster->IsRunning(player.signature))
-			return true;
-	}
-	return false;
-}
-
-
-bool
-IsAudioPlayerRunning()
-{
-	return is_any_running(kAudioPlayers);
-}
-
-
-bool
-IsVideoPlayerRunning()
-{
-	return is_any_running(kVideoPlayers);
-}
-
-
-template <size_t N>
-static void
 launch(const std::array<Launch, N>& launches, long key)
 {
 	for (const Launch& candidate : launches) {
@@ -132,44 +107,46 @@ launch(const std::array<Launch, N>& launches, long key)
 			continue;
 		const status_t status
 			= be_roster->Launch(candidate.signature, static_cast<BMessage*>(nullptr));
-		if (status != B_OK && status != B_ALREADY_RUNNING)
-			AnyAlert(candidate.failure, true);
+		if (status == B_OK || status == B_ALREADY_RUNNING)
+			return true;
+		AnyAlert(candidate.failure, true);
 	}
+	return false;
 }
 
 
-static void
+// A player that does not answer is not asked again.
+static bool
 repeat_command(uint32 command, int times)
 {
-	for (int i = 0; i < times; i++)
-		DoCommand(command);
+	for (int i = 0; i < times; i++) {
+		if (!TellTracks(command))
+			return false;
+	}
+	return true;
 }
 
 
-static void
+static bool
 steer_soundplay(long key)
 {
 	constexpr int kVolumeSteps = 3;
 	switch (key) {
 		case kRemoteSofter:
-			repeat_command(kCommandSofter, kVolumeSteps);
-			break;
+			return repeat_command(kCommandSofter, kVolumeSteps);
 		case kRemoteLouder:
-			repeat_command(kCommandLouder, kVolumeSteps);
-			break;
+			return repeat_command(kCommandLouder, kVolumeSteps);
 		case kRemotePrevious:
-			DoCommand(kCommandPrevious);
-			break;
+			return TellTracks(kCommandPrevious);
 		case kRemoteNext:
-			DoCommand(kCommandNext);
-			break;
+			return TellTracks(kCommandNext);
 		case kRemoteStop:
 		case kRemotePause:
-			DoCommand(kCommandStop);
-			break;
+			return TellTracks(kCommandStop);
 		case kRemotePlay:
-			DoCommand(kCommandPlay);
-			break;
+			return TellTracks(kCommandPlay);
+		default:
+			return true;
 	}
 }
 
@@ -218,50 +195,69 @@ activate_self()
 }
 
 
-static void
+static bool
 press_key(const char* signature, long key)
 {
+	bool isTaken;
 	if (strcmp(signature, kHaikuMediaPlayer) == 0) {
 		printf("(Haiku?)Mediaplayer_selected");
 		const KeyPress press = media_player_key(key);
-		PressKeyInLastApplication(press, key);
+		isTaken = PressKeyInLastApplication(press, key);
 		activate_self();
 	} else {
 		printf("  target is '%s' \n", signature);
 		printf("  WILL SEND ");
-		PressKeyIn(signature, -1, KeyPress(), key);
+		isTaken = PressKeyIn(signature, -1, KeyPress(), key);
 	}
 	snooze(kPause);
+	return isTaken;
+}
+
+
+bool
+PassAudioKey(long key)
+{
+	printf("IAudioApps(%ld)\t", key);
+	const Player* const player = find_running(kAudioPlayers);
+	if (player == nullptr) {
+		const bool isStarted = launch(kAudioLaunches, key);
+		printf("IAudioApps any startet ? -end (%ld)\n", key);
+		return isStarted;
+	}
+	if (strcmp(player->signature, kSoundplay) != 0)
+		return press_key(player->signature, key);
+	const bool isDone = steer_soundplay(key);
+	snooze(kPause);
+	return isDone;
+}
+
+
+bool
+PassVideoKey(long key)
+{
+	printf("IVideoApps(%ld)\t", key);
+	const Player* const player = find_running(kVideoPlayers);
+	bool isDone;
+	if (player == nullptr) {
+		isDone = launch(kVideoLaunches, key);
+		printf("IVideoApps any startet ? -end (%ld)\n", key);
+	} else {
+		isDone = press_key(player->signature, key);
+	}
+	printf("IVideoApps end\n");
+	return isDone;
 }
 
 
 void
 IAudioApps(long key)
 {
-	printf("IAudioApps(%ld)\t", key);
-	const Player* const player = find_running(kAudioPlayers);
-	if (player == nullptr) {
-		launch(kAudioLaunches, key);
-		printf("IAudioApps any startet ? -end (%ld)\n", key);
-	} else if (strcmp(player->signature, kSoundplay) == 0) {
-		steer_soundplay(key);
-		snooze(kPause);
-	} else {
-		press_key(player->signature, key);
-	}
+	PassAudioKey(key);
 }
 
 
 void
 IVideoApps(long key)
 {
-	printf("IVideoApps(%ld)\t", key);
-	const Player* const player = find_running(kVideoPlayers);
-	if (player == nullptr) {
-		launch(kVideoLaunches, key);
-		printf("IVideoApps any startet ? -end (%ld)\n", key);
-	} else {
-		press_key(player->signature, key);
-	}
-	printf("IVideoApps end\n");
+	PassVideoKey(key);
 }

@@ -22,9 +22,16 @@ inline constexpr char kStampTV[] = "application/x-vnd.Me.stampTV";
 inline constexpr bigtime_t kDeliveryLimit = 2000000;
 inline constexpr bigtime_t kReplyLimit = 2000000;
 
-// What IAudioApps(), IVideoApps() and IAnyApps() do not tell, for callers that have to know.
-bool IsAudioPlayerRunning();
-bool IsVideoPlayerRunning();
+// What DoCommand(), IAudioApps(), IVideoApps() and IAnyApps() do, for callers that have to know
+// what became of it.
+
+// False if no track was told: there is no player, it does not answer, or it does not say how loud
+// it is.
+bool TellTracks(long command);
+// False if no player took the key, and the key started none. True also if one runs to which the key
+// means nothing.
+bool PassAudioKey(long key);
+bool PassVideoKey(long key);
 // B_BAD_VALUE for a key that starts nothing.
 status_t StartProgramFor(long key);
 

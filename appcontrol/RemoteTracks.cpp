@@ -17,9 +17,10 @@ namespace {
 constexpr bigtime_t kStartLimit = 10000000;
 constexpr bigtime_t kStartPause = 500000;
 
-// A player whose tracks never end must not hold a command forever.
+// A player whose tracks never end must not hold a command forever. The last track may still take
+// the time-outs of its own questions.
 constexpr long kMostTracks = 256;
-constexpr bigtime_t kCommandLimit = 30000000;
+constexpr bigtime_t kCommandLimit = 20000000;
 
 constexpr float kVolumeStep = 0.02f;
 constexpr float kFullVolume = 1;
@@ -30,29 +31,29 @@ constexpr float kMutedVolume = 0.03f;
 } // namespace
 
 
-static void
+static bool
 send_to(const BMessenger& track, BMessage* request)
 {
-	track.SendMessage(request, static_cast<BHandler*>(nullptr), kDeliveryLimit);
+	return track.SendMessage(request, static_cast<BHandler*>(nullptr), kDeliveryLimit) == B_OK;
 }
 
 
-static void
+static bool
 set_property(const BMessenger& track, const char* property, float value)
 {
 	BMessage request(B_SET_PROPERTY);
 	request.AddSpecifier(property);
 	request.AddFloat("data", value);
-	send_to(track, &request);
+	return send_to(track, &request);
 }
 
 
-static void
+static bool
 execute(const BMessenger& track, const char* property)
 {
 	BMessage request(B_EXECUTE_PROPERTY);
 	request.AddSpecifier(property);
-	send_to(track, &request);
+	return send_to(track, &request);
 }
 
 
@@ -68,27 +69,27 @@ get_volume(const BMessenger& track, float* volume)
 }
 
 
-static void
+static bool
 change_volume(const BMessenger& track, float step)
 {
 	float volume;
 	if (!get_volume(track, &volume))
-		return;
+		return false;
 	volume += step;
 	if (volume > kHighestVolume)
 		volume = kHighestVolume;
 	if (volume < 0)
 		volume = 0;
-	set_property(track, "volume", volume);
+	return set_property(track, "volume", volume);
 }
 
 
-static void
+static bool
 toggle_mute(const BMessenger& track)
 {
 	float volume;
-	if (get_volume(track, &volume))
-		set_property(track, "volume", volume <= kMutedVolume ? kFullVolume : 0);
+	return get_volume(track, &volume)
+		&& set_property(track, "volume", volume <= kMutedVolume ? kFullVolume : 0);
 }
 
 
@@ -111,31 +112,26 @@ is_command(long command)
 }
 
 
-static void
+static bool
 do_with_track(const BMessenger& track, long command)
 {
 	switch (command) {
 		case kCommandPlay:
-			set_property(track, "pitch", 1);
-			break;
+			return set_property(track, "pitch", 1);
 		case kCommandStop:
-			set_property(track, "pitch", 0);
-			break;
+			return set_property(track, "pitch", 0);
 		case kCommandNext:
-			execute(track, "next");
-			break;
+			return execute(track, "next");
 		case kCommandPrevious:
-			execute(track, "previous");
-			break;
+			return execute(track, "previous");
 		case kCommandLouder:
-			change_volume(track, kVolumeStep);
-			break;
+			return change_volume(track, kVolumeStep);
 		case kCommandSofter:
-			change_volume(track, -kVolumeStep);
-			break;
+			return change_volume(track, -kVolumeStep);
 		case kCommandMute:
-			toggle_mute(track);
-			break;
+			return toggle_mute(track);
+		default:
+			return false;
 	}
 }
 
@@ -183,19 +179,29 @@ RemoteTrack(long index)
 }
 
 
-void
-DoCommand(long command)
+bool
+TellTracks(long command)
 {
 	if (!is_command(command))
-		return;
+		return false;
+	const bigtime_t start = system_time();
 	if (command == kCommandPlay)
 		make_player_run();
 
-	const bigtime_t start = system_time();
+	bool isTold = false;
 	for (long index = 0; index < kMostTracks && system_time() - start < kCommandLimit; index++) {
 		const BMessenger track = RemoteTrack(index);
 		if (!track.IsValid())
 			break;
-		do_with_track(track, command);
+		if (do_with_track(track, command))
+			isTold = true;
 	}
+	return isTold;
+}
+
+
+void
+DoCommand(long command)
+{
+	TellTracks(command);
 }

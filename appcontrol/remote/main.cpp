@@ -66,8 +66,9 @@ constexpr char kHelp[]
 	  "                Haiku's media player go\n"
 	  "  --help        shows this\n"
 	  "\n"
-	  "Exit codes: 0 if a player was told, 1 if none was there, 2 for a mistake\n"
-	  "in the command. The manual page is vinyloh-remote(1).\n";
+	  "Exit codes: 0 if a player was told or started, 1 if none was there or it\n"
+	  "did not answer, 2 for a mistake in the command. The manual page is\n"
+	  "vinyloh-remote(1).\n";
 
 } // namespace
 
@@ -83,7 +84,7 @@ misused(const char* text, const char* what)
 static int
 nobody_there()
 {
-	fprintf(stderr, "vinyloh-remote: no player is there.\n");
+	fprintf(stderr, "vinyloh-remote: no player is there, or it does not answer.\n");
 	return kNobodyThere;
 }
 
@@ -127,29 +128,14 @@ remember_application(const char* signature)
 
 
 static int
-do_player_command(uint32 command)
-{
-	// "play" starts one.
-	if (command != kCommandPlay && !RemoteTrack(0).IsValid())
-		return nobody_there();
-	DoCommand(command);
-	return RemoteTrack(0).IsValid() ? kDone : nobody_there();
-}
-
-
-static int
 press_key(const char* kind, long key, const char* application)
 {
 	if (strcmp(kind, "start") != 0)
 		remember_application(application);
-	if (strcmp(kind, "audio") == 0) {
-		IAudioApps(key);
-		return IsAudioPlayerRunning() ? kDone : nobody_there();
-	}
-	if (strcmp(kind, "video") == 0) {
-		IVideoApps(key);
-		return IsVideoPlayerRunning() ? kDone : nobody_there();
-	}
+	if (strcmp(kind, "audio") == 0)
+		return PassAudioKey(key) ? kDone : nobody_there();
+	if (strcmp(kind, "video") == 0)
+		return PassVideoKey(key) ? kDone : nobody_there();
 	switch (StartProgramFor(key)) {
 		case B_OK:
 			return kDone;
@@ -191,7 +177,7 @@ run(const char* application, int count, char** words)
 		return kNobodyThere;
 	}
 	if (command != nullptr)
-		return do_player_command(command->command);
+		return TellTracks(command->command) ? kDone : nobody_there();
 	return press_key(words[0], key, application);
 }
 

@@ -44,7 +44,7 @@ run(const Lines& words, const Lines& variables = {})
 }
 
 
-constexpr char kNobody[] = "vinyloh-remote: no player is there.\n";
+constexpr char kNobody[] = "vinyloh-remote: no player is there, or it does not answer.\n";
 const Lines kCommands = {"play", "stop", "next", "previous", "volume-up", "volume-down", "mute"};
 
 class RemoteProgramTest : public RemoteTest {};
@@ -187,6 +187,56 @@ TEST_F(RemoteProgramTest, SilentPlayerIsGivenUp)
 	stopped.Process().Kill(SIGSTOP);
 	EXPECT_EQ(run({"next"}).exitCode, 1);
 	stopped.Process().Kill(SIGCONT);
+}
+
+
+// Whoever was not told is no success, wherever the command got stuck.
+TEST_F(RemoteProgramTest, PlayerThatTakesNothingIsNotTold)
+{
+	{
+		ScriptedPlayer player(test::kSoundplaySignature, {"PLAYER_FAULT=silent"});
+		ASSERT_TRUE(player.IsReady());
+		const Result result = run({"audio", "0x5F"});
+		EXPECT_EQ(result.exitCode, 1);
+		EXPECT_TRUE(contains(result.output, kNobody)) << result.output;
+	}
+	{
+		ScriptedPlayer player(test::kSoundplaySignature, {"PLAYER_FAULT=volume-text"});
+		ASSERT_TRUE(player.IsReady());
+		EXPECT_EQ(run({"volume-up"}).exitCode, 1);
+		EXPECT_EQ(run({"audio", "0x40"}).exitCode, 1);
+		EXPECT_EQ(run({"next"}).exitCode, 0);
+	}
+	{
+		ScriptedPlayer stopped("application/x-vnd.RMC.Zenebona");
+		ASSERT_TRUE(stopped.IsReady());
+		stopped.Process().Kill(SIGSTOP);
+		EXPECT_EQ(run({"audio", "0x40"}).exitCode, 1);
+	}
+	ScriptedPlayer player("application/x-vnd.Haiku-MediaPlayer");
+	ASSERT_TRUE(player.IsReady());
+	for (const char* kind : {"audio", "video"}) {
+		EXPECT_EQ(run({"--application=application/x-vnd.nobody", kind, "0x5E"}).exitCode, 1);
+		EXPECT_EQ(player.Take(), Lines());
+		EXPECT_EQ(run({kind, "0x5E"}).exitCode, 0);
+		EXPECT_EQ(player.Take().size(), 1u);
+	}
+}
+
+
+// One that is started has been told, even if it is not there yet.
+TEST_F(RemoteProgramTest, KeyThatStartsAPlayerIsASuccess)
+{
+	const std::string path = fFolder.Write("late", "#!/bin/sh\nexit 0\n");
+	ASSERT_EQ(system(("chmod +x '" + path + "'").c_str()), 0);
+	AddPlayers("player late\n\tsignature application/x-vnd.RMC.Zenebona\n\texecutable " + path
+		+ "\n\ttypes audio\nplayer other\n\tsignature application/x-vnd.Me.stampTV\n"
+		  "\texecutable "
+		+ path + "\n\ttypes video\n");
+	EXPECT_EQ(run({"audio", "0x35"}).exitCode, 0);
+	EXPECT_EQ(run({"video", "0x35"}).exitCode, 0);
+	EXPECT_EQ(run({"audio", "0x36"}).exitCode, 1);
+	EXPECT_EQ(run({"video", "0x36"}).exitCode, 1);
 }
 
 

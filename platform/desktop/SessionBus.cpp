@@ -204,4 +204,11 @@ SessionBus::BusProcess()
 	return ProcessOf(kBusName);
 }
 
+
+void
+SessionBus::ReleaseName(const std::string& name)
+{
+	Post(kBusName, kBusPath, kBusName, "ReleaseName", {QString::fromStdString(name)});
+}
+
 } // namespace hosted

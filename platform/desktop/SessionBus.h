@@ -44,6 +44,8 @@ public:
 	static team_id ProcessOf(const std::string& name);
 	// The process of the bus; -1 if it does not say.
 	static team_id BusProcess();
+	// Gives up a name of this process, and waits for nothing.
+	static void ReleaseName(const std::string& name);
 };
 
 } // namespace hosted

@@ -35,7 +35,8 @@ SessionDesk::~SessionDesk()
 	QDBusConnection connection = SessionBus::Connection();
 	if (!connection.isConnected())
 		return;
-	connection.unregisterService(QString::fromStdString(fName));
+	// Nobody waits for a bus that may hang; at the latest the name goes with the connection.
+	SessionBus::ReleaseName(fName);
 	connection.unregisterObject(QLatin1String(kObjectPath));
 }
 
@@ -59,6 +60,11 @@ SessionDesk::Open(const std::string& name)
 			else
 				_Appeared(changed.toStdString());
 		});
+	fBusEnd.setSingleShot(true);
+	QObject::connect(&fBusEnd, &QTimer::timeout, &fBusEnd, [this]() { _BusVanished(); });
+	connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+		QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), &fBusEnd,
+		SLOT(start()));
 	for (const RunningApp& program : RunningPrograms())
 		fSeen[program.busNames.front()] = program;
 	fSeen.erase(name);
@@ -115,6 +121,18 @@ SessionDesk::_Vanished(const std::string& name)
 	program = found->second;
 	fSeen.erase(found);
 	NotifyWatchers(B_SOME_APP_QUIT, program);
+}
+
+
+// The other programs may well be there still, but no answer of theirs comes this way any more.
+void
+SessionDesk::_BusVanished()
+{
+	for (const auto& [name, program] : fSeen) {
+		ForgetActivityOf(program.identity.team);
+		TeamIsGone(program.identity.team);
+	}
+	fSeen.clear();
 }
 
 } // namespace hosted

@@ -7,6 +7,7 @@
 #include <string>
 
 #include <QDBusServiceWatcher>
+#include <QTimer>
 
 #include "platform/desktop/BusObject.h"
 #include "platform/desktop/PlayerWatch.h"
@@ -38,10 +39,14 @@ public:
 private:
 	void _Appeared(const std::string& name);
 	void _Vanished(const std::string& name);
+	void _BusVanished();
 
 private:
 	BusObject fObject;
 	QDBusServiceWatcher fPrograms;
+	// Runs out when the connection to the bus has ended: signals of the bus start a ready-made
+	// slot.
+	QTimer fBusEnd;
 	std::map<std::string, RunningApp> fSeen;
 	std::unique_ptr<PlayerWatch> fPlayers;
 	std::string fName;

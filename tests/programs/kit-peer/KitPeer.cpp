@@ -37,6 +37,8 @@ public:
 		printf("ready %d\n", getpid());
 		if (getenv("PEER_ALONE") != nullptr)
 			_TryAlone();
+		if (getenv("PEER_WAITS_FOR") != nullptr)
+			_WaitFor(getenv("PEER_WAITS_FOR"));
 	}
 
 	void ArgvReceived(int32 count, char** words) override
@@ -126,6 +128,15 @@ private:
 			answer.GetString("text", "-"), teams.CountItems(), otherStatus);
 		if (self.IsTargetLocal())
 			self.SendMessage(_QUIT_);
+	}
+
+	// Asks somebody who does not answer, for ever.
+	void _WaitFor(const char* signature)
+	{
+		BMessage question('hold');
+		BMessage answer;
+		const status_t status = BMessenger(signature).SendMessage(&question, &answer);
+		printf("waited %d, reply %s\n", status, answer.what == B_NO_REPLY ? "NONE" : "other");
 	}
 
 	// Sends a message to another program, waits for its answer and passes that on.

@@ -58,6 +58,7 @@ struct State {
 	bool opened = false;
 	bool failed = false;
 	bool stopping = false;
+	std::atomic<bool> isDisplayOptional = false;
 	std::atomic<int> dotsPerPixel = 1;
 };
 
@@ -226,7 +227,9 @@ display_main(State& shared)
 		application.setQuitOnLastWindowClosed(false);
 		// Desktops find the icon of a window by it.
 		QGuiApplication::setDesktopFileName(QFile::decodeName(program_invocation_short_name));
-		if (is_offscreen_by_necessity(choice) || (!wasSet && choice == "offscreen")) {
+		const bool isMissing
+			= is_offscreen_by_necessity(choice) || (!wasSet && choice == "offscreen");
+		if (isMissing && !shared.isDisplayOptional) {
 			report(shared, false);
 			return;
 		}
@@ -268,6 +271,13 @@ DisplayThread::Start()
 	lock.unlock();
 	thread.join();
 	return false;
+}
+
+
+void
+DisplayThread::MakeDisplayOptional()
+{
+	state().isDisplayOptional = true;
 }
 
 

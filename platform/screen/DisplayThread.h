@@ -18,6 +18,9 @@ public:
 	// Starts the thread and waits until it has a display. False where no display can be opened;
 	// a thread that already runs is left alone.
 	static bool Start();
+	// From now on Start() does without a display where none can be opened, and is true all the
+	// same.
+	static void MakeDisplayOptional();
 	// Runs the jobs that are queued, ends the thread and waits for it. Windows and menus must be
 	// closed before.
 	static void Stop();

@@ -110,12 +110,24 @@ TEST_F(RemoteProgramTest, NobodyIsThere)
 }
 
 
-TEST_F(RemoteProgramTest, WorksWithoutSessionBusAndDisplay)
+TEST_F(RemoteProgramTest, WorksWithoutSessionBus)
 {
-	const Result result = run({"stop"},
-		{"DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere", "DISPLAY=", "WAYLAND_DISPLAY="});
+	const Result result = run({"stop"}, {"DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere"});
 	EXPECT_EQ(result.exitCode, 1);
 	EXPECT_TRUE(contains(result.output, kNobody)) << result.output;
+}
+
+
+// From a terminal of another machine, or where the one display does not answer.
+TEST_F(RemoteProgramTest, WorksWithoutDisplay)
+{
+	ScriptedPlayer player;
+	ASSERT_TRUE(player.IsReady());
+	for (const char* display : {"DISPLAY=", "DISPLAY=:9973"}) {
+		const Result result = run({"next"}, {"QT_QPA_PLATFORM=", "WAYLAND_DISPLAY=", display});
+		EXPECT_EQ(result.exitCode, 0) << display << ": " << result.output;
+		EXPECT_EQ(player.Take(), (Lines{"track 0: next"}));
+	}
 }
 
 

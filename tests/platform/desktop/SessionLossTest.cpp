@@ -36,10 +36,14 @@ protected:
 	// One that waits for the holder's answer, which never comes.
 	std::unique_ptr<Peer> StartWaiting()
 	{
-		std::unique_ptr<Peer> peer
-			= Start(test::kPeerSignature, {std::string("PEER_WAITS_FOR=") + kHolder});
+		const std::string target = std::string("PEER_WAITS_FOR=") + kHolder;
+		std::unique_ptr<Peer> peer = Start(test::kPeerSignature, {target});
 		EXPECT_TRUE(peer->IsReady());
 		EXPECT_TRUE(fHolder->WaitForLine("holding"));
+		// Once the holder has answered somebody else, this one knows that its question has arrived.
+		std::unique_ptr<Peer> other
+			= Start("application/x-vnd.answered", {target, "PEER_IS_ANSWERED=1"});
+		EXPECT_TRUE(other->WaitForLine("waited 0, reply other"));
 		return peer;
 	}
 

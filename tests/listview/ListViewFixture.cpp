@@ -60,6 +60,17 @@ ListenerWindow::Received(uint32 what)
 
 
 void
+TestedMxView::MessageReceived(BMessage* message)
+{
+	BPoint where;
+	if (message->what == 'clck' && message->FindPoint("where", &where) == B_OK)
+		MouseDown(where);
+	else
+		MxView::MessageReceived(message);
+}
+
+
+void
 TestedMxView::AddWPopMenu()
 {
 	menuCount++;

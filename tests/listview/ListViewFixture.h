@@ -40,6 +40,8 @@ class TestedMxView : public MxView {
 public:
 	using MxView::MxView;
 
+	// Takes 'clck' for a click that no press of a button has led to.
+	void MessageReceived(BMessage* message) override;
 	void AddWPopMenu() override;
 	void DrawProgressCalc(bool redraw) override;
 	void PlyBut(long button, BRect frame) override;

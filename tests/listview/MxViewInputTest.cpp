@@ -409,6 +409,11 @@ TEST_F(MxViewMouse, WithoutAMouseMessageNoButtonIsPressed)
 	Show(3, 0);
 	fView->MouseDown(kEmptyPlace);
 	EXPECT_EQ(fView->menuCount, 0);
+	BMessage other('clck');
+	other.AddInt32("buttons", B_PRIMARY_MOUSE_BUTTON);
+	other.AddPoint("where", kEmptyPlace);
+	SendToView(other);
+	EXPECT_EQ(fView->menuCount, 0);
 }
 
 

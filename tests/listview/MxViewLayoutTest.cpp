@@ -8,7 +8,9 @@
 #include <Path.h>
 
 #include "entryview/MEView.h"
+#include "locale/KVLabel.h"
 #include "locale/KVLangMenu.h"
+#include "locale/Labels.h"
 #include "settings/Prefs.h"
 #include "tests/listview/ListViewFixture.h"
 #include "tests/support/Desktop.h"
@@ -85,6 +87,17 @@ TEST_F(MxViewLayout, StartValues)
 	EXPECT_FALSE(view.listChanged);
 	EXPECT_TRUE(view.sizeMenuShown);
 	EXPECT_FALSE(view.pathTrouble);
+}
+
+
+TEST_F(MxViewLayout, BeginsWithTheBuiltInTexts)
+{
+	const std::string file = fFolder.Write("KORU-Haiku.deDE", "\"Close\" \"Zumachen\"\n");
+	KVLabel::getKVLabel("KORU-Haiku")->LoadLangFile(file.c_str());
+	ASSERT_STREQ(getLabel(173), "Zumachen");
+	// No file of that language lies beside the program.
+	const MxView view(BRect(0, 0, 1000, 700), "MxView", 0, 0);
+	EXPECT_STREQ(getLabel(173), "Close");
 }
 
 

@@ -291,6 +291,9 @@ BWindow::_DispatchOwn(BMessage* message)
 void
 BWindow::_FrameMessage(BMessage* message)
 {
+	// Another program does not know where this window is.
+	if (message->IsSourceRemote())
+		return;
 	// Only the last of several sizes counts; the program is told of them once.
 	const bool isResize = message->what == B_WINDOW_RESIZED;
 	if (isResize && MessageQueue()->FindMessage(B_WINDOW_RESIZED, 0) != nullptr)

@@ -227,6 +227,10 @@ TEST_F(WindowMessages, OtherProgramsAreNotTheDesktop)
 	test::Settle(fWindow);
 
 	EXPECT_EQ(fWindow->Frame(), frame);
+	for (const std::string& line : fLog.Lines()) {
+		EXPECT_NE(line.compare(0, 8, "moved to"), 0) << line;
+		EXPECT_NE(line.compare(0, 10, "resized to"), 0) << line;
+	}
 	EXPECT_EQ(fLog.Count("view: down"), 0);
 	EXPECT_EQ(fLog.Count("quit requested"), 0);
 }

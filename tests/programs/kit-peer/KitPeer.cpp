@@ -14,6 +14,9 @@
 
 namespace {
 
+// The message that is held, so that it does not count as lost.
+BMessage* sHeld = nullptr;
+
 // A looper that answers.
 class Echo : public BLooper {
 public:
@@ -79,7 +82,7 @@ public:
 			case 'hold':
 				// Never answers, and never lets go of the message.
 				printf("holding\n");
-				DetachCurrentMessage();
+				sHeld = DetachCurrentMessage();
 				break;
 			case 'stop':
 				printf("stopping\n");

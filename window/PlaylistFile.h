@@ -6,7 +6,7 @@ class BList;
 
 
 /*!	Appends a new BPath for each line of a playlist file to the list. A line that is no absolute
-   path is taken from the playlist's own folder. withPrefix tells whether a line began with
+	path is taken from the playlist's own folder. withPrefix tells whether a line began with
    "file://".
 
 	Returns false if the file could not be read, or not to its end.

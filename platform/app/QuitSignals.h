@@ -15,7 +15,7 @@ namespace hosted {
 	a thread of its own.
 
 	The same signal more than a second later ends the program at once. What whoever started the
-   program has ignored stays ignored. There is one at a time.
+	program has ignored stays ignored. There is one at a time.
 */
 class QuitSignals {
 public:

@@ -52,7 +52,7 @@ private:
 /*!	All handlers, loopers and expected replies of the process, by number.
 
 	Numbers are never used again. Its mutex is held for look-ups only: nothing is called while it
-   is.
+	is.
 */
 class Registry {
 public:

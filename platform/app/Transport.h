@@ -13,8 +13,8 @@ namespace hosted {
 /*!	Names a handler in any process of the user's session.
 
 	team is the process's team, port the number that its looper has there, token the handler's
-   number, or kPreferredToken for the looper's preferred handler. Port kApplicationPort is the
-   process's application object, whatever its own number is.
+	number, or kPreferredToken for the looper's preferred handler. Port kApplicationPort is the
+	process's application object, whatever its own number is.
 */
 struct Address {
 	team_id team = -1;

@@ -11,7 +11,7 @@ namespace hosted {
 
 /*!	The value of an attribute that a file answers although nobody stored it: "BEOS:TYPE" from the
 	table of file types, "Audio:Artist", "Audio:Title", "Audio:Album" and "Audio:Track" from its
-   tags.
+	tags.
 
 	path is absolute and names an existing file or folder. False if the file has no such value; then
 	type and value are as they were. The value is as the attribute holds it: texts with their

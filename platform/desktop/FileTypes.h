@@ -9,7 +9,7 @@
 namespace hosted {
 
 /*!	The type of what is at that path, under Haiku's name; empty for what has none (a device, a
-   socket, nothing at all).
+	socket, nothing at all).
 
 	A link is a link, whatever it points to. Most files are known by their extension, and then no
 	file is opened; the others are looked into, at a few places of bounded size. Callable from any

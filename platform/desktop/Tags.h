@@ -18,8 +18,8 @@ struct Tags {
 };
 
 /*!	Reads the tags of an audio or video file of any common kind. Nothing is found in what is no
-   plain file, cannot be opened or is damaged; the amount that is read for them is bounded, however
-   big the file is.
+	plain file, cannot be opened or is damaged; the amount that is read for them is bounded, however
+	big the file is.
 
 	The last file is remembered as long as it stays as it was. Callable from any thread.
 */

@@ -23,7 +23,7 @@ namespace hosted {
 /*!	One showing of a menu: opens the native menu, waits for the choice, and invokes the chosen item.
 
 	The display thread only reports; everything else happens in the thread that asked, or in a
-   thread of the showing's own. Menu, items and window may be gone before it is over.
+	thread of the showing's own. Menu, items and window may be gone before it is over.
 */
 class MenuTracking {
 public:

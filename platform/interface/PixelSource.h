@@ -17,8 +17,8 @@ namespace hosted {
 /*!	Where a bitmap gets its pixels from when they are first needed.
 
 	A bitmap made with one knows its size at once and decodes later: at the size at which it is
-   drawn, or whole when its bits are asked for. Called with the bitmap in use by one thread at a
-   time, from any thread.
+	drawn, or whole when its bits are asked for. Called with the bitmap in use by one thread at a
+	time, from any thread.
 */
 class PixelSource {
 public:

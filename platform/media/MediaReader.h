@@ -35,7 +35,7 @@ struct TrackFacts {
 /*!	Finds out which tracks a media file has and how long they are.
 
 	All of it is read when the reader is made: at most for a few seconds, and never from another
-   file or place than the source, whatever the file names. The source is not needed afterwards.
+	file or place than the source, whatever the file names. The source is not needed afterwards.
 */
 class MediaReader {
 public:

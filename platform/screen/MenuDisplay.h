@@ -57,7 +57,7 @@ struct MenuPlace {
 /*!	One opening of a native menu.
 
 	Made and used by any thread but the display thread. Once open it is over by a choice, by the
-   user's turning away, by Close(), or when the display thread ends.
+	user's turning away, by Close(), or when the display thread ends.
 */
 class NativeMenu {
 public:

@@ -185,7 +185,7 @@ AttributeDatabase::Connection::_Prepare()
 	renamed.
 
 	A number alone proves nothing, as it is given out again; together with the time of birth it
-   does.
+	does.
 */
 int
 AttributeDatabase::Connection::_FindNode(const FileIdentity& file, int64* id, bool* hasMoved)

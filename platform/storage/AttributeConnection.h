@@ -15,7 +15,7 @@ namespace hosted {
 /*!	The open database: its statements and what they mean.
 
 	Not guarded; the database's lock does that. Calls answer SQLite's codes, SQLITE_NOTFOUND for
-   what is not there.
+	what is not there.
 */
 class AttributeDatabase::Connection {
 public:

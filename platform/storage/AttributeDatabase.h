@@ -34,7 +34,7 @@ status_t IdentifyFile(int fd, FileIdentity* identity);
 
 	The file is made by the first write. A damaged one is put aside and begun anew. If there is no
 	place for it, reading finds nothing and writing fails with B_NO_INIT. Every call may be made
-   from any thread; other programs may use the same database at the same time.
+	from any thread; other programs may use the same database at the same time.
 */
 class AttributeDatabase {
 public:

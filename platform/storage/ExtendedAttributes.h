@@ -15,7 +15,7 @@ constexpr size_t kMaxAttributeSize = 40960;
 /*!	Attributes where the file system keeps them: as extended attributes of the system.
 
 	The name gets a prefix and the value is led by its type. Calls answer the system's error
-   numbers, 0 for success.
+	numbers, 0 for success.
 */
 struct ExtendedAttributes {
 	static int Read(int fd, const char* name, type_code* type, std::string* value);

@@ -24,7 +24,7 @@ enum {
 /*!	Data to cut, copy and paste, under a name.
 
 	The text of "system" is shared with the other programs of the desktop; everything else stays in
-   the process.
+	the process.
 */
 class BClipboard {
 public:

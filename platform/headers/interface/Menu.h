@@ -25,7 +25,7 @@ enum menu_layout {
 /*!	A list of items, shown by a native menu that always puts them in a column.
 
 	Any thread may ask for and change what it holds; an open native menu shows what was there when
-   it opened.
+	it opened.
 */
 class BMenu : public BView {
 public:

@@ -8,7 +8,7 @@
 /*!	A lock that the thread which holds it may take again.
 
 	It is free once it was given back as often as it was taken. A thread that does not hold it
-   cannot give it back.
+	cannot give it back.
 */
 class BLocker {
 public:

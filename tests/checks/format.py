@@ -12,15 +12,9 @@ import shutil
 import subprocess
 import sys
 
-ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+from sources import ROOT, sources
+
 FORMATTER = shutil.which("clang-format-14") or shutil.which("clang-format") or "clang-format-14"
-
-
-def sources():
-	listed = subprocess.run(
-		["git", "-C", ROOT, "ls-files", "--cached", "--others", "--exclude-standard", "*.cpp", "*.h"],
-		check=True, stdout=subprocess.PIPE, text=True)
-	return [path for path in listed.stdout.split("\n") if path and os.path.exists(os.path.join(ROOT, path))]
 
 
 def part_initializers(lines):

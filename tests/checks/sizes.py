@@ -3,10 +3,10 @@
 
 import os
 import re
-import subprocess
 import sys
 
-ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+from sources import ROOT, sources
+
 FILE_LIMIT = 600
 FUNCTION_LIMIT = 60
 
@@ -30,12 +30,8 @@ def check(path, report):
 
 def main():
 	found = []
-	listed = subprocess.run(
-		["git", "-C", ROOT, "ls-files", "--cached", "--others", "--exclude-standard", "*.cpp", "*.h"],
-		check=True, stdout=subprocess.PIPE, text=True)
-	for path in listed.stdout.split("\n"):
-		if path and os.path.exists(os.path.join(ROOT, path)):
-			check(path, found.append)
+	for path in sources():
+		check(path, found.append)
 	print("\n".join(found) if found else "sizes: no file and no function is too long")
 	return 1 if found else 0
 

@@ -5,6 +5,7 @@ player and leaves screenshots in the folder.
 """
 
 import os
+import shutil
 import sys
 import time
 
@@ -58,10 +59,20 @@ def show(session, program, titles, folder):
 		keep(f"{number + 2}-playing.png")
 
 
+def make_folder(folder):
+	"""Root makes it anew for the ordinary user who goes on from here."""
+	if os.geteuid() == 0:
+		shutil.rmtree(folder, ignore_errors=True)
+		os.makedirs(folder)
+		os.chmod(folder, 0o777)
+	else:
+		os.makedirs(folder, exist_ok=True)
+
+
 def main():
-	as_ordinary_user()
 	program_path, folder = os.path.abspath(sys.argv[1]), os.path.abspath(sys.argv[2])
-	os.makedirs(folder, exist_ok=True)
+	make_folder(folder)
+	as_ordinary_user()
 	with Session() as session:
 		titles = make_music(os.path.join(session.home, "Musik"))
 		with open(os.path.join(session.home, "_koru_media_list"), "w", encoding="utf-8") as file:

@@ -29,10 +29,9 @@ void
 MEDIA_Window::_ShowFolder(int32 number)
 {
 	// Of a thousand folders one has the number that leads back, which it must do all the same.
-	const BitmapPath* const folder = number != kNoFolderNumber
-		? static_cast<BitmapPath*>(fFolderList->ItemAt(number))
-		:
-		nullptr;
+	const BitmapPath* folder = nullptr;
+	if (number != kNoFolderNumber)
+		folder = static_cast<BitmapPath*>(fFolderList->ItemAt(number));
 	if (folder == nullptr)
 		_LeaveFolder();
 	else

@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <Application.h>
+#include <Autolock.h>
 #include <Message.h>
 #include <Window.h>
 
@@ -38,6 +39,17 @@ QImage PictureOf(BWindow* window);
 // Waits until the display thread and the window have handled all that was sent to them before, and
 // what that led to.
 void Settle(BWindow* window);
+
+// What the function returns, called with the window locked: a window that is shown may be changing
+// itself at any time.
+template <typename Function>
+auto
+Locked(BWindow* window, Function function)
+{
+	BAutolock lock(window);
+	return function();
+}
+
 
 // Quits the window and waits until it is gone.
 void CloseWindow(BWindow* window);

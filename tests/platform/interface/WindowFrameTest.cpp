@@ -37,6 +37,16 @@ protected:
 		test::Settle(fWindow);
 	}
 
+	BRect Frame()
+	{
+		return test::Locked(fWindow, [this]() { return fWindow->Frame(); });
+	}
+
+	BRect Bounds()
+	{
+		return test::Locked(fWindow, [this]() { return fWindow->Bounds(); });
+	}
+
 	QRect WidgetFrame()
 	{
 		QRect frame;
@@ -73,7 +83,7 @@ TEST_F(WindowFrame, ChangesAtOnceAndIsReportedLater)
 {
 	fWindow->MoveTo(100.4f, 50);
 	fWindow->ResizeTo(400, 299.6f);
-	EXPECT_EQ(fWindow->Frame(), BRect(100, 50, 500, 350));
+	EXPECT_EQ(Frame(), BRect(100, 50, 500, 350));
 	EXPECT_TRUE(fLog.Lines().empty());
 
 	Show();
@@ -101,7 +111,7 @@ TEST_F(WindowFrame, NoChangeIsNoCall)
 {
 	Show();
 	fLog.Clear();
-	fWindow->MoveTo(fWindow->Frame().LeftTop());
+	fWindow->MoveTo(Frame().LeftTop());
 	fWindow->ResizeTo(299, 199);
 	test::Settle(fWindow);
 	EXPECT_TRUE(fLog.Lines().empty());
@@ -110,7 +120,7 @@ TEST_F(WindowFrame, NoChangeIsNoCall)
 
 TEST_F(WindowFrame, ChildrenFollowAtOnce)
 {
-	LoggingView* view = new LoggingView(fWindow->Bounds(), "child", fLog);
+	LoggingView* view = new LoggingView(Bounds(), "child", fLog);
 	fWindow->AddChild(view);
 	fWindow->ResizeTo(500, 400);
 	EXPECT_EQ(view->Frame(), BRect(0, 0, 500, 400));
@@ -120,11 +130,11 @@ TEST_F(WindowFrame, ChildrenFollowAtOnce)
 TEST_F(WindowFrame, SizeLimitsClampNowAndLater)
 {
 	fWindow->SetSizeLimits(600, 1240, 382, 1024);
-	EXPECT_EQ(fWindow->Bounds(), BRect(0, 0, 600, 382));
+	EXPECT_EQ(Bounds(), BRect(0, 0, 600, 382));
 	fWindow->ResizeTo(5000, 5000);
-	EXPECT_EQ(fWindow->Bounds(), BRect(0, 0, 1240, 1024));
+	EXPECT_EQ(Bounds(), BRect(0, 0, 1240, 1024));
 	fWindow->ResizeTo(10, 10);
-	EXPECT_EQ(fWindow->Bounds(), BRect(0, 0, 600, 382));
+	EXPECT_EQ(Bounds(), BRect(0, 0, 600, 382));
 
 	Show();
 	test::OnWidget(fWindow, [](QWidget& widget) {
@@ -148,7 +158,7 @@ TEST_F(WindowFrame, CrossedSizeLimitsAreIgnored)
 	EXPECT_EQ(maxWidth, 32768);
 	EXPECT_EQ(minHeight, 0);
 	EXPECT_EQ(maxHeight, 32768);
-	EXPECT_EQ(fWindow->Bounds(), BRect(0, 0, 299, 199));
+	EXPECT_EQ(Bounds(), BRect(0, 0, 299, 199));
 }
 
 
@@ -161,27 +171,28 @@ TEST_F(WindowFrame, LimitsBeyondAllMeasureDoNoHarm)
 		fWindow->SetSizeLimits(limit, limit, 0, 1000);
 		fWindow->SetSizeLimits(0, 1000, 0, 1000);
 	}
-	EXPECT_EQ(fWindow->Bounds(), BRect(0, 0, 1000, 199));
+	EXPECT_EQ(Bounds(), BRect(0, 0, 1000, 199));
 	fWindow->SetSizeLimits(100, 500, 50, 400);
 	fWindow->SetSizeLimits(NAN, NAN, 0, 10);
 	fWindow->SetSizeLimits(0, 10, 0, NAN);
 	test::Settle(fWindow);
 	float maxWidth;
 	float maxHeight;
-	fWindow->GetSizeLimits(nullptr, &maxWidth, nullptr, &maxHeight);
+	test::Locked(fWindow,
+		[&]() { fWindow->GetSizeLimits(nullptr, &maxWidth, nullptr, &maxHeight); });
 	EXPECT_EQ(maxWidth, 500);
 	EXPECT_EQ(maxHeight, 400);
 
-	const BRect frame = fWindow->Frame();
+	const BRect frame = Frame();
 	fWindow->MoveTo(NAN, 3);
 	fWindow->ResizeTo(NAN, 300);
-	EXPECT_EQ(fWindow->Frame(), frame);
+	EXPECT_EQ(Frame(), frame);
 	fWindow->ResizeTo(3e38f, -3e38f);
 	fWindow->MoveTo(3e38f, -3e38f);
-	EXPECT_EQ(fWindow->Bounds(), BRect(0, 0, 500, 50));
+	EXPECT_EQ(Bounds(), BRect(0, 0, 500, 50));
 	fWindow->MoveTo(frame.LeftTop());
 	test::Settle(fWindow);
-	EXPECT_EQ(fWindow->Frame().LeftTop(), frame.LeftTop());
+	EXPECT_EQ(Frame().LeftTop(), frame.LeftTop());
 	EXPECT_EQ(hosted::CountQtWarnings(), warnings);
 }
 
@@ -195,7 +206,8 @@ TEST_F(WindowFrame, NonsenseAtConstructionIsPutRight)
 			LoggingWindow* const window = new LoggingWindow(frame, fLog);
 			window->Show();
 			test::Settle(window);
-			for (const float edge : {window->Frame().left, window->Frame().bottom})
+			const BRect shown = test::Locked(window, [window]() { return window->Frame(); });
+			for (const float edge : {shown.left, shown.bottom})
 				EXPECT_LE(fabsf(edge), 2000000);
 			test::CloseWindow(window);
 		}
@@ -208,14 +220,14 @@ TEST_F(WindowFrame, ZoomTogglesWithinItsLimits)
 {
 	fWindow->SetSizeLimits(100, 600, 100, 500);
 	fWindow->SetZoomLimits(400, 9000);
-	const BRect before = fWindow->Frame();
+	const BRect before = Frame();
 	const BRect screen = BScreen().Frame();
 	fWindow->Zoom();
-	EXPECT_EQ(fWindow->Frame().Width(), 400);
-	EXPECT_EQ(fWindow->Frame().Height(), std::min(500.0f, screen.Height()));
-	EXPECT_EQ(fWindow->Frame().left, floorf((screen.Width() - 400) / 2));
+	EXPECT_EQ(Frame().Width(), 400);
+	EXPECT_EQ(Frame().Height(), std::min(500.0f, screen.Height()));
+	EXPECT_EQ(Frame().left, floorf((screen.Width() - 400) / 2));
 	fWindow->Zoom();
-	EXPECT_EQ(fWindow->Frame(), before);
+	EXPECT_EQ(Frame(), before);
 }
 
 
@@ -225,8 +237,8 @@ TEST_F(WindowFrame, IsCenteredOnTheScreen)
 	ASSERT_TRUE(screen.IsValid());
 	EXPECT_EQ(screen.LeftTop(), BPoint(0, 0));
 	fWindow->CenterOnScreen();
-	EXPECT_NEAR(fWindow->Frame().left, (screen.Width() - 299) / 2, 1);
-	EXPECT_NEAR(fWindow->Frame().top, (screen.Height() - 199) / 2, 1);
+	EXPECT_NEAR(Frame().left, (screen.Width() - 299) / 2, 1);
+	EXPECT_NEAR(Frame().top, (screen.Height() - 199) / 2, 1);
 }
 
 
@@ -237,6 +249,7 @@ TEST_F(WindowFrame, TheContentsAreWhereTheFrameSays)
 	fWindow->MoveBy(5, -6);
 	test::Settle(fWindow);
 	EXPECT_EQ(WidgetFrame().topLeft(), QPoint(65, 64));
+	BAutolock lock(fWindow);
 	EXPECT_EQ(fWindow->ConvertToScreen(BPoint(1, 2)), BPoint(66, 66));
 	EXPECT_EQ(fWindow->ConvertFromScreen(BPoint(66, 66)), BPoint(1, 2));
 }
@@ -244,19 +257,19 @@ TEST_F(WindowFrame, TheContentsAreWhereTheFrameSays)
 
 TEST_F(WindowFrame, TheUsersFrameIsAdopted)
 {
-	LoggingView* view = new LoggingView(fWindow->Bounds(), "child", fLog);
+	LoggingView* view = new LoggingView(Bounds(), "child", fLog);
 	fWindow->AddChild(view);
 	Show();
 	fLog.Clear();
 	SetWidgetFrame(QRect(80, 90, 400, 250));
-	EXPECT_EQ(fWindow->Frame(), BRect(80, 90, 479, 339));
-	EXPECT_EQ(view->Frame(), BRect(0, 0, 399, 249));
+	EXPECT_EQ(Frame(), BRect(80, 90, 479, 339));
+	EXPECT_EQ(test::Locked(fWindow, [view]() { return view->Frame(); }), BRect(0, 0, 399, 249));
 	EXPECT_EQ(fLog.Count("moved to 80 90"), 1);
 	EXPECT_EQ(fLog.Count("resized to 399 249"), 1);
 
 	// And back to what the window itself had asked for.
 	SetWidgetFrame(QRect(60, 70, 300, 200));
-	EXPECT_EQ(fWindow->Frame(), BRect(60, 70, 359, 269));
+	EXPECT_EQ(Frame(), BRect(60, 70, 359, 269));
 }
 
 
@@ -269,7 +282,7 @@ TEST_F(WindowFrame, TheWindowsOwnRequestWinsOverAnOlderReport)
 		fWindow->ResizeTo(449, 349);
 	}
 	test::Settle(fWindow);
-	EXPECT_EQ(fWindow->Bounds(), BRect(0, 0, 449, 349));
+	EXPECT_EQ(Bounds(), BRect(0, 0, 449, 349));
 	EXPECT_EQ(WidgetFrame().size(), QSize(450, 350));
 }
 
@@ -289,7 +302,7 @@ TEST_F(WindowFrame, AStormFromBothSidesEndsInAgreement)
 	EXPECT_TRUE(test::WaitFor([this]() {
 		test::Settle(fWindow);
 		BAutolock lock(fWindow);
-		const BRect bounds = fWindow->Bounds();
+		const BRect bounds = Bounds();
 		return WidgetFrame().size() == QSize(bounds.Width() + 1, bounds.Height() + 1);
 	}));
 }

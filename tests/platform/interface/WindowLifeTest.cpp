@@ -38,6 +38,12 @@ protected:
 		return isVisible;
 	}
 
+	bool IsHidden()
+	{
+		BAutolock lock(fWindow);
+		return fWindow->IsHidden();
+	}
+
 	bool WaitForEnd(const BMessenger& messenger)
 	{
 		return test::WaitFor([&]() { return !messenger.IsValid(); });
@@ -73,7 +79,7 @@ TEST_F(WindowLife, StartsHiddenAndLocked)
 	EXPECT_FALSE(test::OnWidget(fWindow, [](QWidget&) {}));
 	fWindow->Show();
 	EXPECT_FALSE(fWindow->IsLocked());
-	EXPECT_FALSE(fWindow->IsHidden());
+	EXPECT_FALSE(IsHidden());
 	test::Settle(fWindow);
 	EXPECT_TRUE(IsOnDesktop());
 	test::CloseWindow(fWindow);
@@ -85,7 +91,7 @@ TEST_F(WindowLife, ShowsAndHidesNest)
 	fWindow->Hide();
 	fWindow->Show();
 	test::Settle(fWindow);
-	EXPECT_TRUE(fWindow->IsHidden());
+	EXPECT_TRUE(IsHidden());
 	EXPECT_FALSE(IsOnDesktop());
 	fWindow->Show();
 	test::Settle(fWindow);
@@ -264,7 +270,10 @@ TEST_F(WindowLife, ActivationReachesWindowAndViews)
 	fWindow->Show();
 	test::Settle(fWindow);
 	fWindow->Activate();
-	EXPECT_TRUE(test::WaitFor([this]() { return fWindow->IsActive(); }));
+	EXPECT_TRUE(test::WaitFor([this]() {
+		BAutolock lock(fWindow);
+		return fWindow->IsActive();
+	}));
 	test::Settle(fWindow);
 	EXPECT_EQ(fLog.Count("active"), 1);
 	EXPECT_EQ(fLog.Count("view: active"), 1);

@@ -137,7 +137,8 @@ TEST_F(WindowLook, BordersComeAndGoWhileTheWindowIsShown)
 	fWindow->SetLook(B_FLOATING_WINDOW_LOOK);
 	EXPECT_FALSE(NativeFlags() & Qt::FramelessWindowHint);
 	EXPECT_TRUE(test::OnWidget(fWindow, [](QWidget& widget) { EXPECT_TRUE(widget.isVisible()); }));
-	EXPECT_EQ(fWindow->Frame(), BRect(60, 70, 359, 269));
+	EXPECT_EQ(test::Locked(fWindow, [this]() { return fWindow->Frame(); }),
+		BRect(60, 70, 359, 269));
 }
 
 
@@ -174,6 +175,7 @@ TEST_F(WindowLook, TitlesArriveUnchanged)
 		EXPECT_EQ(widget.windowHandle()->title().toStdString(),
 			"using: >> /a [*] b/\xc3\xa4\xe3\x81\x82");
 	});
+	BAutolock lock(fWindow);
 	fWindow->SetTitle(nullptr);
 	EXPECT_STREQ(fWindow->Title(), "");
 }

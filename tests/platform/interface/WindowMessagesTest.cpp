@@ -206,7 +206,8 @@ TEST_F(WindowMessages, OnlyViewsThatWantThemGetFrameEvents)
 // What only the desktop may say: that the user has moved the window, pressed a key or a button.
 TEST_F(WindowMessages, OtherProgramsAreNotTheDesktop)
 {
-	const BRect frame = fWindow->Frame();
+	const auto windowFrame = [this]() { return fWindow->Frame(); };
+	const BRect frame = test::Locked(fWindow, windowFrame);
 	const BMessenger target(fWindow);
 	BMessage moved(B_WINDOW_MOVED);
 	moved.AddInt32(hosted::kInputKind, hosted::kInputFrame);
@@ -226,7 +227,7 @@ TEST_F(WindowMessages, OtherProgramsAreNotTheDesktop)
 		EXPECT_EQ(SendFromOutside(target, *message), B_OK);
 	test::Settle(fWindow);
 
-	EXPECT_EQ(fWindow->Frame(), frame);
+	EXPECT_EQ(test::Locked(fWindow, windowFrame), frame);
 	for (const std::string& line : fLog.Lines()) {
 		EXPECT_NE(line.compare(0, 8, "moved to"), 0) << line;
 		EXPECT_NE(line.compare(0, 10, "resized to"), 0) << line;

@@ -124,7 +124,7 @@ TEST_F(WindowScripting, NumbersAreSetAsByTheirMethods)
 	request.AddInt32("data", -1);
 	EXPECT_EQ(Ask(request).GetInt32("error", -1), B_OK);
 	EXPECT_EQ(Get("Workspaces").GetInt32("result", 0), -1);
-	EXPECT_EQ(fWindow->Workspaces(), B_ALL_WORKSPACES);
+	EXPECT_EQ(test::Locked(fWindow, [this]() { return fWindow->Workspaces(); }), B_ALL_WORKSPACES);
 }
 
 
@@ -135,7 +135,7 @@ TEST_F(WindowScripting, CanBeMinimized)
 		request.AddBool("data", minimized);
 		EXPECT_EQ(Ask(request).GetInt32("error", -1), B_OK);
 		EXPECT_EQ(Get("Minimize").GetBool("result", !minimized), minimized);
-		EXPECT_EQ(fWindow->IsMinimized(), minimized);
+		EXPECT_EQ(test::Locked(fWindow, [this]() { return fWindow->IsMinimized(); }), minimized);
 	}
 }
 
@@ -206,6 +206,7 @@ TEST_F(WindowScripting, ViewsCanBeChanged)
 		BAutolock lock(fWindow);
 		fWindow->AddChild(view);
 	}
+	const auto viewFrame = [view]() { return view->Frame(); };
 	BMessage request = Setting("Frame");
 	request.AddSpecifier("View", "view");
 	EXPECT_EQ(Ask(request).what, uint32(B_MESSAGE_NOT_UNDERSTOOD));
@@ -213,17 +214,17 @@ TEST_F(WindowScripting, ViewsCanBeChanged)
 	const BMessage reply = Ask(request);
 	EXPECT_EQ(reply.what, uint32(B_REPLY));
 	EXPECT_FALSE(reply.HasInt32("error"));
-	EXPECT_EQ(view->Frame(), BRect(1, 2, 30, 40));
+	EXPECT_EQ(test::Locked(fWindow, viewFrame), BRect(1, 2, 30, 40));
 	request.ReplaceRect("data", BRect(0, 0, std::numeric_limits<float>::quiet_NaN(), 1));
 	EXPECT_EQ(Ask(request).GetInt32("error", B_OK), B_BAD_VALUE);
-	EXPECT_EQ(view->Frame(), BRect(1, 2, 30, 40));
+	EXPECT_EQ(test::Locked(fWindow, viewFrame), BRect(1, 2, 30, 40));
 
 	for (const bool hidden : {true, true, false}) {
 		request = Setting("Hidden");
 		request.AddSpecifier("View", int32(0));
 		request.AddBool("data", hidden);
 		EXPECT_EQ(Ask(request).what, uint32(B_REPLY));
-		EXPECT_EQ(view->IsHidden(), hidden);
+		EXPECT_EQ(test::Locked(fWindow, [view]() { return view->IsHidden(); }), hidden);
 	}
 }
 

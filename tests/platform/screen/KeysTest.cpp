@@ -15,6 +15,7 @@
 #include <Messenger.h>
 #include <TypeConstants.h>
 
+#include "platform/screen/DisplayThread.h"
 #include "platform/screen/KeyMessages.h"
 #include "platform/screen/KeyTable.h"
 #include "tests/support/Desktop.h"
@@ -34,7 +35,7 @@ protected:
 	void SetUp() override
 	{
 		test::Application();
-		hosted::ForgetHeldKeys();
+		hosted::DisplayThread::Call(hosted::ForgetHeldKeys);
 		fWindow = new LoggingWindow(BRect(60, 70, 259, 269), fLog);
 		fView = new LoggingView(fWindow->Bounds(), "view", fViewLog);
 		fWindow->AddChild(fView);
@@ -435,10 +436,11 @@ TEST_F(Keys, TabMovesTheFocus)
 		fWindow->AddChild(second);
 		first->MakeFocus(true);
 	}
+	const auto focus = [this]() { return fWindow->CurrentFocus(); };
 	Press({15, Qt::Key_Tab, QStringLiteral("\t")});
-	EXPECT_EQ(fWindow->CurrentFocus(), second);
+	EXPECT_EQ(test::Locked(fWindow, focus), second);
 	Press({15, Qt::Key_Tab, QStringLiteral("\t")});
-	EXPECT_EQ(fWindow->CurrentFocus(), first);
+	EXPECT_EQ(test::Locked(fWindow, focus), first);
 	Press({15, Qt::Key_Backtab, QStringLiteral("\t"), Qt::ShiftModifier});
-	EXPECT_EQ(fWindow->CurrentFocus(), second);
+	EXPECT_EQ(test::Locked(fWindow, focus), second);
 }

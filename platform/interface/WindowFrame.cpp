@@ -386,7 +386,8 @@ BWindow::IsFront() const
 void
 BWindow::Activate(bool active)
 {
-	if (IsHidden())
+	BAutolock lock(this);
+	if (!lock.IsLocked() || IsHidden())
 		return;
 	if (active)
 		Minimize(false);

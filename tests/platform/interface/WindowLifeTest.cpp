@@ -281,6 +281,24 @@ TEST_F(WindowLife, ActivationReachesWindowAndViews)
 }
 
 
+// For the thread sanitizer.
+TEST_F(WindowLife, IsActivatedWhileItComesAndGoes)
+{
+	fWindow->Show();
+	std::thread other([this]() {
+		for (int i = 0; i < 100; i++)
+			fWindow->Activate();
+	});
+	for (int i = 0; i < 100; i++) {
+		fWindow->Hide();
+		fWindow->Show();
+	}
+	other.join();
+	EXPECT_TRUE(test::WaitFor([this]() { return IsOnDesktop(); }));
+	test::CloseWindow(fWindow);
+}
+
+
 // The pulse.
 
 

@@ -53,9 +53,12 @@ class Language(unittest.TestCase):
 		for program in programs:
 			wait_for(lambda: program.title().startswith(begin), f"a title that begins with {begin}")
 
-	def memory(self, session):
-		return attribute(os.path.join(session.environment["XDG_CONFIG_HOME"], "_LP_x-vnd.KV",
-			"kv_simpel_locale"), "_last_lg_selected")
+	def wait_for_memory(self, session, language):
+		path = os.path.join(session.environment["XDG_CONFIG_HOME"], "_LP_x-vnd.KV",
+			"kv_simpel_locale")
+		name = "_last_lg_selected"
+		wait_for(lambda: os.path.exists(path) and "user.haiku." + name in os.listxattr(path)
+			and attribute(path, name) == ("CSTR", language + b"\0"), "the stored language")
 
 	def test_a_language_chosen_in_one_copy_changes_both(self):
 		with Session() as session:
@@ -72,7 +75,7 @@ class Language(unittest.TestCase):
 			for program in both:
 				program.wait_for_text(f" Mark Item nr: {files.index('deDE')}\n")
 				self.assertEqual(program.count("..(replaced: 24 )..done"), 1)
-			self.assertEqual(self.memory(session), ("CSTR", b"deDE\0"))
+			self.wait_for_memory(session, b"deDE")
 			self.look(session, both, "german")
 
 			self.choose(second, files.index("jaJP"))
@@ -84,7 +87,7 @@ class Language(unittest.TestCase):
 			self.wait_for_titles(both, "using: >> ")
 			for program in both:
 				program.wait_for_text(f" Mark Item nr: {LANGUAGE_COUNT + 1}\n")
-			self.assertEqual(self.memory(session), ("CSTR", b"_non\0"))
+			self.wait_for_memory(session, b"_non")
 			for program in reversed(both):
 				self.assertEqual(program.close(), 0)
 
@@ -120,7 +123,7 @@ class Language(unittest.TestCase):
 			self.prepare(session)
 			program = self.start(session, "first.log", 20)
 			self.choose(program, self.files(program).index("frFR"))
-			wait_for(lambda: self.memory(session) == ("CSTR", b"frFR\0"), "the stored language")
+			self.wait_for_memory(session, b"frFR")
 			wait_for(lambda: not program.title().startswith("using:"), "the French title")
 			french = program.title()
 			self.assertEqual(program.close(), 0)

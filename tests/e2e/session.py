@@ -144,7 +144,7 @@ class Session:
 		"""What the programs of a test that failed have printed last."""
 		for name in sorted(os.listdir(self.root)):
 			path = os.path.join(self.root, name)
-			if os.path.isfile(path):
+			if os.path.isfile(path) and not name.endswith(".png"):
 				with open(path, encoding="utf-8", errors="replace") as file:
 					print(f"-- the end of {name}", *file.read().split("\n")[-lines:], sep="\n",
 						file=sys.stderr)

@@ -51,6 +51,9 @@ class Players(unittest.TestCase):
 
 	def wait_until_it_plays(self, session, player, title):
 		wait_for(lambda: session.playing_path(PREFIX + player) == title, f"{title} in {player}", 30)
+		# Its window takes the focus when it comes.
+		if player == "vlc":
+			session.window("VLC media player$")
 
 	def play_album(self, session, player):
 		"""Each title is played by one process, and each but the first asks exactly one to quit."""

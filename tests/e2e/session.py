@@ -140,7 +140,7 @@ class Session:
 			self.print_logs()
 		self.end()
 
-	def print_logs(self, lines=25):
+	def print_logs(self, lines=60):
 		"""What the programs of a test that failed have printed last."""
 		for name in sorted(os.listdir(self.root)):
 			path = os.path.join(self.root, name)
@@ -179,8 +179,8 @@ class Session:
 		vlc = os.path.join(self.environment["XDG_CONFIG_HOME"], "vlc")
 		os.makedirs(vlc, exist_ok=True)
 		with open(os.path.join(vlc, "vlcrc"), "w", encoding="utf-8") as file:
-			file.write("[qt]\nqt-privacy-ask=0\nqt-updates-notif=0\n[core]\naout=amem\n"
-				"metadata-network-access=0\n")
+			file.write("[qt]\nqt-privacy-ask=0\nqt-updates-notif=0\nqt-error-dialogs=0\n"
+				"[core]\naout=amem\nmetadata-network-access=0\n")
 		mpv = os.path.join(self.environment["XDG_CONFIG_HOME"], "mpv")
 		os.makedirs(mpv, exist_ok=True)
 		with open(os.path.join(mpv, "mpv.conf"), "w", encoding="utf-8") as file:
